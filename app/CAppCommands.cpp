@@ -1,0 +1,159 @@
+// The application's commands, its main window's messages and the periodic refresh.
+#include "app/CApp.h"
+
+#include "framework/CVireoView.h"
+#include "lists/CListPage.h"
+#include "pages/tasks/CloseTasks.h"
+#include "resources/ids.h"
+#include "resources/version.h"
+
+static constexpr UINT_PTR refreshTimer = 1;
+static constexpr UINT refreshMs = 7500;
+static constexpr DWORD closingAllMs =
+    1000; // the applications get this long to go before the page is refreshed
+
+#define QV_WIDE_(text) L##text
+#define QV_WIDE(text) QV_WIDE_(text)
+
+void CApp::OnCommand(uint32_t id, uint32_t /*notifyCode*/, LPARAM /*control*/)
+{
+    switch (id) {
+    case CMD_SHOW_TASKS:
+        ShowPage(PageTasks);
+        break;
+    case CMD_SHOW_SYSINFO:
+        ShowPage(PageSysInfo);
+        break;
+    case CMD_SHOW_START:
+        ShowPage(PageStart);
+        break;
+    case CMD_SHOW_PROCS:
+        ShowPage(PageProcs);
+        break;
+    case CMD_HIDE:
+        ShowWindow(mainWindow, SW_MINIMIZE);
+        break;
+    case CMD_EXIT:
+        SendMessageW(mainWindow, WM_CLOSE, 0, 0);
+        break;
+    case CMD_SETTINGS:
+        ShowNotice(L"Settings cmd"); // a placeholder on purpose
+        break;
+    case CMD_CLOSE_ALL:
+        CloseAll();
+        break;
+    case CMD_ABOUT:
+        ShowAbout();
+        break;
+    default:
+        break;
+    }
+}
+
+void CApp::ShowPage(int32_t id)
+{
+    EndAllDialogs();
+    ActivateView(id);
+    BringToFront(mainWindow);
+}
+
+void CApp::CloseAll()
+{
+    EnumWindows(CloseAllTasksProc, 0);
+    if (HasMainWindow() && HasRefreshablePage()) {
+        Sleep(closingAllMs);
+        RefreshCurrentPage();
+    }
+}
+
+void CApp::ShowAbout()
+{
+    MessageBoxW(mainWindow, L"Quorvane " QV_WIDE(QV_VERSION_TEXT), L"About", MB_OK);
+}
+
+void CApp::OnActivate()
+{
+    RefreshCurrentPage();
+    SetTimer(mainWindow, refreshTimer, refreshMs, nullptr);
+}
+
+void CApp::OnDeactivate()
+{
+    KillTimer(mainWindow, refreshTimer);
+}
+
+bool CApp::HasRefreshablePage() const
+{
+    return activeView != nullptr && activeView->Id() != PageStart;
+}
+
+void CApp::RefreshCurrentPage()
+{
+    if (HasRefreshablePage()) {
+        activeView->OnCommand(CMD_REFRESH, 0, 0);
+    }
+}
+
+LRESULT CApp::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_SETFOCUS:
+        // A page that was shown below an open dialog could not take the focus then.
+        if (activeView != nullptr) {
+            SetFocus(activeView->Window());
+        }
+        break;
+    case WM_COPYDATA:
+        return ReceiveKeyCommand(reinterpret_cast<const COPYDATASTRUCT*>(lParam));
+    case WM_TIMER:
+        if (wParam == refreshTimer) {
+            RefreshCurrentPage();
+        }
+        break;
+    case WM_HOTKEY:
+        if (HIWORD(lParam) == VK_ESCAPE) {
+            SHSendBackToFocusWindow(message, wParam, lParam);
+        }
+        break;
+    default:
+        break;
+    }
+    return CVireoApp::WindowProc(message, wParam, lParam);
+}
+
+static void CopyPath(wchar_t (&target)[256], const CStr& path)
+{
+    wcsncpy(target, path, 255);
+    target[255] = 0;
+}
+
+void CApp::SendKeyCommand(HWND runningInstance) const
+{
+    SKeyCommand command = {};
+    command.vk = static_cast<int32_t>(keyCode);
+    command.pressAction = static_cast<int32_t>(shortAction);
+    command.holdAction = static_cast<int32_t>(longAction);
+    CopyPath(command.pressApplication, shortFile);
+    CopyPath(command.holdApplication, longFile);
+    COPYDATASTRUCT data = {keyCommandData, sizeof command, &command};
+    SendMessageW(runningInstance, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data));
+}
+
+// Anything but a whole record of the program's own is ignored.
+LRESULT CApp::ReceiveKeyCommand(const COPYDATASTRUCT* data)
+{
+    if (data == nullptr || data->dwData != keyCommandData || data->cbData != sizeof(SKeyCommand) ||
+        data->lpData == nullptr) {
+        return TRUE;
+    }
+    SKeyCommand command;
+    memcpy(&command, data->lpData, sizeof command);
+    command.pressApplication[255] = 0;
+    command.holdApplication[255] = 0;
+    keyCode = static_cast<uint32_t>(command.vk);
+    shortAction = static_cast<uint32_t>(command.pressAction);
+    longAction = static_cast<uint32_t>(command.holdAction);
+    shortFile = command.pressApplication;
+    longFile = command.holdApplication;
+    return TRUE;
+}

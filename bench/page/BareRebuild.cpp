@@ -1,0 +1,88 @@
+// The platform calls that listing the running applications cannot do without, and nothing else.
+#include "bench/page/BareRebuild.h"
+
+#include <algorithm>
+
+static constexpr int TextLength = 260;
+static constexpr size_t MostTasks = 1000;
+
+BareRebuild::BareRebuild(HWND taskList) : list(taskList)
+{
+    tasks.reserve(MostTasks);
+}
+
+void BareRebuild::Run()
+{
+    tasks.clear();
+    SendMessageW(list, LVM_GETSELECTIONMARK, 0, 0);
+    EnumWindows(AskWindow, reinterpret_cast<LPARAM>(this));
+    TellList();
+}
+
+BOOL CALLBACK BareRebuild::AskWindow(HWND window, LPARAM self)
+{
+    auto& tasks = reinterpret_cast<BareRebuild*>(self)->tasks;
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window) ||
+        (GetWindowLongPtrW(window, GWL_EXSTYLE) & (WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW)))
+        return TRUE;
+    HWND top = window;
+    while (const HWND owner = GetWindow(top, GW_OWNER))
+        top = owner;
+    const bool topVisible = IsWindowVisible(top) != FALSE;
+    wchar_t title[TextLength];
+    if (!GetWindowTextW(topVisible ? top : window, title, TextLength) &&
+        !GetWindowTextW(topVisible ? window : top, title, TextLength))
+        return TRUE;
+    if (std::find(tasks.begin(), tasks.end(), top) != tasks.end())
+        return TRUE;
+    AskTask(top);
+    tasks.push_back(top);
+    return TRUE;
+}
+
+void BareRebuild::AskTask(HWND window)
+{
+    DWORD processId = 0;
+    GetWindowThreadProcessId(window, &processId);
+    wchar_t className[TextLength];
+    GetClassNameW(window, className, TextLength);
+    wchar_t path[TextLength];
+    // The device takes a process id in the place of a module handle.
+    if (GetModuleFileNameW(reinterpret_cast<HMODULE>(static_cast<ULONG_PTR>(processId)), path, TextLength)) {
+        SHFILEINFOW info;
+        SHGetFileInfo(path, 0, &info, sizeof(info), SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
+    }
+    WalkHeaps(processId);
+}
+
+DWORD BareRebuild::WalkHeaps(DWORD processId)
+{
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, processId);
+    if (snapshot == INVALID_HANDLE_VALUE)
+        return 0;
+    DWORD bytes = 0;
+    HEAPLIST32 heap;
+    heap.dwSize = sizeof(heap);
+    HEAPENTRY32 entry;
+    entry.dwSize = sizeof(entry);
+    for (BOOL more = Heap32ListFirst(snapshot, &heap);
+         more && Heap32First(snapshot, &entry, heap.th32ProcessID, heap.th32HeapID);
+         more = Heap32ListNext(snapshot, &heap)) {
+        do
+            bytes += entry.dwBlockSize;
+        while (Heap32Next(snapshot, &entry));
+    }
+    CloseToolhelp32Snapshot(snapshot);
+    return bytes;
+}
+
+// The task that was selected stays so; in a measurement it is always the first.
+void BareRebuild::TellList() const
+{
+    SendMessageW(list, LVM_SETITEMCOUNT, tasks.size(), 0);
+    LVITEMW item = {};
+    item.state = item.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
+    SendMessageW(list, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
+    SendMessageW(list, LVM_SETSELECTIONMARK, 0, 0);
+    SendMessageW(list, LVM_ENSUREVISIBLE, 0, FALSE);
+}

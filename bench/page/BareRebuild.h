@@ -1,0 +1,26 @@
+// The platform calls that listing the running applications cannot do without, and nothing else.
+#pragma once
+
+#include "platform/ce.h"
+
+#include <vector>
+
+// Makes the same calls in the same order as the page, keeps nothing but the windows that are needed to list
+// a task once.
+class BareRebuild
+{
+    HWND list; // the page's own control
+    std::vector<HWND> tasks;
+
+  public:
+    explicit BareRebuild(HWND taskList);
+
+    void Run();
+    size_t TaskCount() const { return tasks.size(); }
+
+  private:
+    static BOOL CALLBACK AskWindow(HWND window, LPARAM self);
+    static void AskTask(HWND window);
+    static DWORD WalkHeaps(DWORD processId);
+    void TellList() const;
+};

@@ -1,0 +1,29 @@
+// BenchApp: the program with its pages, which measures itself from inside its message loop and then ends.
+#pragma once
+
+#include "app/CApp.h"
+#include "pages/tasks/CViewTasks.h"
+
+#include <functional>
+
+class BenchApp : public CApp
+{
+    std::function<void(BenchApp&)> body;
+
+    static constexpr UINT messageBody = WM_APP + 300;
+
+  public:
+    explicit BenchApp(std::function<void(BenchApp&)> measurements) : body(std::move(measurements)) {}
+
+    // The program's own start, with its title, icon and accelerators.
+    int Start();
+
+    CViewTasks& Tasks() { return *static_cast<CViewTasks*>(FindView(PageTasks)); }
+    HWND TaskList();
+
+    bool OnCreate() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    CVireoView* FindView(int32_t id);
+};

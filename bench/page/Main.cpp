@@ -1,0 +1,67 @@
+// bench_page.exe: measures the page of the running applications from inside the program.
+#include "bench/page/Measurements.h"
+#include "tests/rig/Actor.h"
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int WindowCounts[] = {10, 50, 200};
+constexpr int ProgramCount = 5; // that the windows belong to
+
+// The other programs and their windows.
+class Crowd
+{
+    std::vector<std::unique_ptr<rig::Actor>> programs;
+    int windows = 0;
+
+  public:
+    Crowd()
+    {
+        for (int i = 0; i < ProgramCount; i++)
+            programs.push_back(std::make_unique<rig::Actor>());
+    }
+
+    // False when a window could not be made.
+    bool GrowTo(int count)
+    {
+        rig::ActorWindowSpec spec;
+        spec.place = {0, 2000, 10, 2010}; // below the screen, where they hide nothing
+        for (; windows < count; windows++) {
+            spec.title = L"Application " + std::to_wstring(windows + 1);
+            if (!programs[static_cast<size_t>(windows % ProgramCount)]->Make(spec))
+                return false;
+        }
+        return true;
+    }
+};
+
+// Once there are more rows than the list can show.
+constexpr int RepaintWindows = 50;
+
+bool Measure(BenchApp& app, Crowd& crowd)
+{
+    for (int count : WindowCounts) {
+        if (!crowd.GrowTo(count)) {
+            std::fputs("bench_page: not all windows could be made\n", stderr);
+            return false;
+        }
+        if (!bench::MeasureRebuild(app, count))
+            return false;
+        if (count == RepaintWindows)
+            bench::MeasureRepaint(app);
+    }
+    return true;
+}
+
+} // namespace
+
+int wmain()
+{
+    Crowd crowd;
+    bool measured = false;
+    BenchApp app([&](BenchApp& running) { measured = Measure(running, crowd); });
+    app.Start();
+    return measured ? 0 : 1;
+}

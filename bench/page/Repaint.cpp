@@ -1,0 +1,64 @@
+// Painting one row against painting the whole list.
+#include "bench/Row.h"
+#include "bench/Stopwatch.h"
+#include "bench/page/Measurements.h"
+
+namespace bench {
+namespace {
+
+int s_rowsDrawn;
+WNDPROC s_pageProcedure;
+
+LRESULT CALLBACK CountRows(HWND page, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    s_rowsDrawn += message == WM_DRAWITEM ? 1 : 0;
+    return CallWindowProcW(s_pageProcedure, page, message, wParam, lParam);
+}
+
+// A null rectangle means all of the list.
+double Paint(HWND list, const RECT* rect)
+{
+    const Stopwatch watch;
+    InvalidateRect(list, rect, FALSE);
+    UpdateWindow(list);
+    return watch.Milliseconds();
+}
+
+int RowsDrawn(HWND page, HWND list, const RECT* rect)
+{
+    s_pageProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(page, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountRows)));
+    s_rowsDrawn = 0;
+    Paint(list, rect);
+    SetWindowLongPtrW(page, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_pageProcedure));
+    return s_rowsDrawn;
+}
+
+} // namespace
+
+void MeasureRepaint(BenchApp& app)
+{
+    HWND list = app.TaskList();
+    HWND page = app.Tasks().Window();
+    Paint(list, nullptr); // nothing that was invalid before counts
+    RECT row = {};
+    row.left = LVIR_BOUNDS;
+    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(SendMessageW(list, LVM_GETTOPINDEX, 0, 0) + 2),
+                 reinterpret_cast<LPARAM>(&row));
+
+    const int ofRow = RowsDrawn(page, list, &row);
+    const int ofList = RowsDrawn(page, list, nullptr);
+    std::printf("Rows drawn for one row's rectangle\t%d\t-\t1\t%s\t%d for the whole list\n", ofRow,
+                ofRow == 1 ? "met" : "missed", ofList);
+
+    Pairs pairs;
+    const Stopwatch whole;
+    while (whole.Milliseconds() < RowMs / 2) {
+        const double one = Paint(list, &row);
+        pairs.Add(one, Paint(list, nullptr));
+    }
+    Row("Painting one row / the whole list", pairs, NoBudget, "%.3f ms / %.3f ms", pairs.Ones().Median(),
+        pairs.Others().Median());
+}
+
+} // namespace bench

@@ -1,0 +1,115 @@
+// bench_start.exe: how long Quorvane and Wine's own task manager take to show their first page, and the
+// memory they have then; beside them a bare window, below which no program can come.
+#include "bench/Row.h"
+#include "bench/Stopwatch.h"
+#include "bench/start/FirstPage.h"
+#include "tests/rig/Actor.h"
+#include "tests/rig/Desktop.h"
+
+#include <psapi.h>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int WarmUps = 2;
+constexpr int Rounds = 15;
+constexpr double LongestStart = 20000; // ms
+constexpr DWORD SettlingMs = 500;      // what a program still does after its first page
+constexpr DWORD PauseMs = 200;         // for what is left of the one before
+constexpr int OtherWindows = 10;       // to be listed by both task managers
+
+struct Start
+{
+    double milliseconds = 0; // 0: it never showed its page
+    double privateKb = 0;
+};
+
+double PrivateKb(HANDLE process)
+{
+    PROCESS_MEMORY_COUNTERS memory = {};
+    memory.cb = sizeof(memory);
+    if (!GetProcessMemoryInfo(process, &memory, sizeof(memory)))
+        return 0;
+    return static_cast<double>(memory.PagefileUsage) / 1024;
+}
+
+Start Measure(const std::wstring& executable)
+{
+    Sleep(PauseMs);
+    Start start;
+    const bench::Stopwatch watch;
+    const rig::ChildProcess process(executable, L"", L"C:\\");
+    while (process.Running() && watch.Milliseconds() < LongestStart) {
+        if (ShowsFirstPage(process.Id())) {
+            start.milliseconds = watch.Milliseconds();
+            break;
+        }
+        Sleep(1);
+    }
+    if (start.milliseconds == 0)
+        std::fprintf(stderr, "bench_start: %ls showed no page\n", executable.c_str());
+    Sleep(SettlingMs);
+    start.privateKb = PrivateKb(process.Handle());
+    return start; // the process ends here, unasked, so that it saves nothing for its next start
+}
+
+struct Figures
+{
+    bench::Pairs times;     // Quorvane and the other task manager
+    bench::Pairs bareTimes; // a bare window and the other task manager
+    bench::Pairs memory;
+};
+
+// False when one of them did not show its page.
+bool MeasureAll(Figures& figures)
+{
+    for (int round = 0; round < WarmUps + Rounds; round++) {
+        const Start ours = Measure(rig::ProgramFolder() + L"\\Quorvane.exe");
+        const Start theirs = Measure(L"C:\\windows\\system32\\taskmgr.exe");
+        const Start bare = Measure(rig::ProgramFolder() + L"\\bench_window.exe");
+        if (ours.milliseconds == 0 || theirs.milliseconds == 0 || bare.milliseconds == 0)
+            return false;
+        if (round < WarmUps)
+            continue;
+        figures.times.Add(ours.milliseconds, theirs.milliseconds);
+        figures.bareTimes.Add(bare.milliseconds, theirs.milliseconds);
+        figures.memory.Add(ours.privateKb, theirs.privateKb);
+    }
+    return true;
+}
+
+bool OpenWindows(const rig::Actor& actor)
+{
+    rig::ActorWindowSpec spec;
+    spec.place = {0, 2000, 10, 2010}; // below the screen, where they hide nothing
+    for (int i = 0; i < OtherWindows; i++) {
+        spec.title = L"Application " + std::to_wstring(i + 1);
+        if (!actor.Make(spec))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int wmain()
+{
+    SetProcessDPIAware();
+    const rig::Actor actor;
+    if (!OpenWindows(actor)) {
+        std::fputs("bench_start: not all windows could be made\n", stderr);
+        return 1;
+    }
+    Figures figures;
+    if (!MeasureAll(figures))
+        return 1;
+    bench::Row("Start to the first page / taskmgr", figures.times, 0.50,
+               "%.0f ms / %.0f ms, %u starts of each", figures.times.Ones().Median(),
+               figures.times.Others().Median(), static_cast<unsigned>(figures.times.Ratios().Count()));
+    bench::Row("Start of a bare window / taskmgr", figures.bareTimes, bench::NoBudget, "%.0f ms / %.0f ms",
+               figures.bareTimes.Ones().Median(), figures.bareTimes.Others().Median());
+    bench::Row("Private memory / taskmgr", figures.memory, bench::NoBudget, "%.0f KB / %.0f KB",
+               figures.memory.Ones().Median(), figures.memory.Others().Median());
+    return 0;
+}

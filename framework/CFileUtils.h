@@ -1,0 +1,17 @@
+// Where the program's own files lie, and whether a file exists.
+#pragma once
+
+#include "framework/CStr.h"
+
+class CFileUtils
+{
+  public:
+    static const uint32_t pathSize = 260; // capacity of the strings that receive a path
+
+    // out must be of fixed size; it receives the folder of the running module with the backslash at its end.
+    static void MakeAppFolderPath(CStr& out);
+    static void MakeAppFilePath(CStr& out, const wchar_t* fileName);
+
+    // Wildcards are honoured, and folders count.
+    static bool FileExists(const wchar_t* path);
+};

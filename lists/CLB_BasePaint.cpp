@@ -1,0 +1,157 @@
+// The list control's window procedure: everything is erased and drawn in a back buffer of the client's size,
+// and only the invalid rectangle is copied to the screen.
+#include "lists/CLB_Base.h"
+
+#include "framework/CStr.h"
+#include "framework/Gdi.h"
+#include "framework/Scale.h"
+#include "resources/ids.h"
+
+static constexpr int emptyTextInset = 15; // pixels, not scaled
+static constexpr UINT emptyTextFlags = DT_CENTER | DT_VCENTER | DT_WORDBREAK | DT_END_ELLIPSIS | DT_NOPREFIX;
+static_assert(emptyTextFlags == 0x8815);
+
+LRESULT CLB_Base::Original(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return CallWindowProcW(originalProcedure, window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK CLB_Base::ListWindowProc(HWND listWindow, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    auto* list = reinterpret_cast<CLB_Base*>(GetWindowLongPtrW(listWindow, GWLP_USERDATA));
+    return list->HandleMessage(message, wParam, lParam);
+}
+
+// Nothing touches the list after the control's own procedure ran: its notifications may end the program.
+LRESULT CLB_Base::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_SIZE: {
+        const LRESULT result = Original(message, wParam, lParam);
+        ResizeBuffer(LOWORD(lParam), HIWORD(lParam));
+        return result;
+    }
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT:
+        return Paint();
+    default:
+        return FilterMessage(message, wParam, lParam) ? 0 : Original(message, wParam, lParam);
+    }
+}
+
+void CLB_Base::ResizeBuffer(int width, int height)
+{
+    if (width == bufferWidth && height == bufferHeight && bufferDC != nullptr) {
+        return;
+    }
+    FreeBuffer();
+    bufferWidth = width;
+    bufferHeight = height;
+    WindowDC screen(window);
+    bufferDC = CreateCompatibleDC(screen);
+    bufferBitmap = CreateCompatibleBitmap(screen, width, height);
+    previousBitmap = SelectObject(bufferDC, bufferBitmap);
+}
+
+void CLB_Base::FreeBuffer()
+{
+    if (bufferDC == nullptr) {
+        return;
+    }
+    SelectObject(bufferDC, previousBitmap);
+    DeleteObject(bufferBitmap);
+    DeleteDC(bufferDC);
+    bufferDC = nullptr;
+    bufferBitmap = nullptr;
+}
+
+RECT CLB_Base::RowRect(int row) const
+{
+    RECT rect = {};
+    rect.left = LVIR_BOUNDS;
+    SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
+    return rect;
+}
+
+LRESULT CLB_Base::Paint()
+{
+    PaintDC paint(window);
+    if (!paint) {
+        return 0;
+    }
+    if (Count() == 0) {
+        PaintEmpty(paint);
+        return 1;
+    }
+    if (bufferDC == nullptr) {
+        RECT client = {};
+        GetClientRect(window, &client);
+        ResizeBuffer(client.right, client.bottom);
+    }
+    if (bufferDC == nullptr) {
+        return 0; // no memory for it: nothing is drawn
+    }
+    PaintRows(paint, paint.Area());
+    return 0;
+}
+
+void CLB_Base::PaintRows(HDC screen, const RECT& paintRect)
+{
+    EraseLikeList(bufferDC);
+    const auto top = static_cast<int>(SendMessageW(window, LVM_GETTOPINDEX, 0, 0));
+    const auto perPage = static_cast<int>(SendMessageW(window, LVM_GETCOUNTPERPAGE, 0, 0));
+    const auto count = static_cast<int>(Count());
+    const auto mark = static_cast<int>(SendMessageW(window, LVM_GETSELECTIONMARK, 0, 0));
+    if (traits.separators) {
+        PaintSeparators(top, perPage + 1);
+    }
+
+    DRAWITEMSTRUCT draw = {};
+    draw.CtlType = ODT_LISTVIEW;
+    draw.CtlID = IDC_LIST;
+    draw.hwndItem = window;
+    draw.hDC = bufferDC;
+    for (int row = top; row <= top + perPage && row < count; ++row) {
+        draw.itemID = static_cast<UINT>(row);
+        draw.itemAction = row == mark ? ODA_SELECT : 0;
+        draw.itemState = row == mark ? ODS_SELECTED : 0;
+        draw.rcItem = RowRect(row);
+        if (draw.rcItem.top < paintRect.bottom && draw.rcItem.bottom > paintRect.top &&
+            draw.rcItem.left < paintRect.right && draw.rcItem.right > paintRect.left) {
+            SendMessageW(owner, WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw));
+        }
+    }
+    BitBlt(screen, paintRect.left, paintRect.top, paintRect.right - paintRect.left,
+           paintRect.bottom - paintRect.top, bufferDC, paintRect.left, paintRect.top, SRCCOPY);
+}
+
+void CLB_Base::PaintSeparators(int topRow, int slots)
+{
+    RECT slot = RowRect(topRow);
+    const int height = slot.bottom - slot.top;
+    const int thickness = ScaleX(1);
+    for (int i = 0; i < slots; ++i) {
+        const RECT strip = {slot.left, slot.bottom - thickness, slot.right, slot.bottom};
+        FillRect(bufferDC, &strip, CE_COLOR_BRUSH(COLOR_SCROLLBAR));
+        slot.top += height;
+        slot.bottom += height;
+    }
+}
+
+void CLB_Base::PaintEmpty(HDC screen) const
+{
+    EraseLikeList(screen);
+    CStr text;
+    EmptyText(text);
+    if (text.IsEmpty()) {
+        return;
+    }
+    RECT area = {};
+    GetClientRect(window, &area);
+    area.left += emptyTextInset;
+    area.right -= emptyTextInset;
+    SetTextColor(screen, GetSysColor(COLOR_WINDOWTEXT));
+    SetBkMode(screen, TRANSPARENT);
+    DrawTextW(screen, text, -1, &area, emptyTextFlags);
+}

@@ -1,0 +1,173 @@
+// A page: title strip, list, and the behaviour that all pages share.
+#include "lists/CListPage.h"
+
+#include "framework/CVireoApp.h"
+#include "lists/RowLook.h"
+#include "lists/TitleStrip.h"
+#include "resources/ids.h"
+
+CListPage::~CListPage()
+{
+    DeleteDC(memoryDC);
+    DeleteObject(boldFont);
+    DeleteObject(normalFont);
+}
+
+void CListPage::Create(int32_t viewId, uint32_t viewMenuBarId, uint32_t viewAcceleratorId)
+{
+    BaseConstruct(viewId, viewMenuBarId, viewAcceleratorId);
+}
+
+void CListPage::OnCreate()
+{
+    icons.Fetch();
+    largeIconSize = icons.LargeSize();
+    boldFont = CreateSystemFont(FW_BOLD, traits.boldExtraHeight);
+    normalFont = CreateSystemFont(FW_NORMAL, traits.normalExtraHeight);
+    headerHeight = TitleStripHeight(boldFont);
+    memoryDC = CreateCompatibleDC(nullptr);
+    List().Construct(window);
+}
+
+void CListPage::OnActivate(int32_t /*previousViewId*/)
+{
+    Fill(traits.activationRow);
+    List().RecreateColumns(true);
+    SetFocus(List().Window());
+    if (List().Count() > 0) {
+        List().SelectRow(0);
+    }
+    List().Repaint();
+    RECT strip = {};
+    GetClientRect(window, &strip);
+    strip.bottom = headerHeight;
+    InvalidateRect(window, &strip, FALSE);
+    UpdateWindow(window);
+}
+
+void CListPage::SetRowCount(uint32_t count)
+{
+    List().SetCount(count);
+    List().ClampSelection();
+}
+
+void CListPage::Refresh()
+{
+    Fill(List().SelectedRow());
+    ShowRefilled();
+}
+
+void CListPage::ShowRefilled()
+{
+    List().RecreateColumns(true);
+    List().Repaint();
+}
+
+void CListPage::OnPaint(HDC deviceContext)
+{
+    RECT client = {};
+    GetClientRect(window, &client);
+    DrawTitleStrip(deviceContext, client, headerHeight, traits.title, boldFont, List());
+}
+
+void CListPage::OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM control)
+{
+    CVireoApp* app = CVireoApp::Current();
+    switch (commandId) {
+    case CMD_PREVIOUS_PAGE:
+        app->ActivateView(traits.previousPage);
+        break;
+    case CMD_NEXT_PAGE:
+        app->ActivateView(traits.nextPage);
+        break;
+    case CMD_REFRESH:
+        Refresh();
+        break;
+    default:
+        app->OnCommand(commandId, notifyCode, control);
+        break;
+    }
+}
+
+void CListPage::Layout(int width, int height)
+{
+    CLB_Base& list = List();
+    if (list.Window() == nullptr) {
+        return; // the size message of the window's own creation
+    }
+    MoveWindow(list.Window(), 0, headerHeight, width, height - headerHeight, TRUE);
+    list.RecreateColumns(true);
+    list.ShowSelectedRow();
+}
+
+// The page may be gone afterwards: a command of the menu can end the program.
+void CListPage::TapHeader(POINT point)
+{
+    RECT client = {};
+    GetClientRect(window, &client);
+    switch (TitleStripZone(point.x, client, headerHeight)) {
+    case StripZone::PreviousPage:
+        OnCommand(CMD_PREVIOUS_PAGE, 0, 0);
+        break;
+    case StripZone::NextPage:
+        OnCommand(CMD_NEXT_PAGE, 0, 0);
+        break;
+    case StripZone::Title: {
+        HWND self = window;
+        const uint32_t command = TrackTitleStripMenu(self, point, traits.showCommand);
+        if (IsWindow(self)) {
+            OnCommand(command, 0, 0);
+        }
+        break;
+    }
+    }
+}
+
+LRESULT CListPage::Notify(const NMHDR& notification)
+{
+    if (notification.idFrom != IDC_LIST) {
+        return 1;
+    }
+    if (notification.code == GN_CONTEXTMENU) {
+        return 1; // consumed: the pages have no context menu
+    }
+    if (notification.code == LVN_ITEMACTIVATE) {
+        OnCommand(CMD_ACTIVATE_ITEM, 0, 0);
+    }
+    return 0;
+}
+
+LRESULT CListPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_SIZE:
+        Layout(LOWORD(lParam), HIWORD(lParam));
+        break;
+    case WM_SETFOCUS:
+        SetFocus(List().Window());
+        return 0;
+    case WM_MEASUREITEM:
+        if (List().MeasureItem(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam))) {
+            return TRUE;
+        }
+        break;
+    case WM_DRAWITEM:
+        if (List().DrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam))) {
+            return TRUE;
+        }
+        break;
+    case WM_NOTIFY:
+        return Notify(*reinterpret_cast<const NMHDR*>(lParam));
+    case WM_LBUTTONDOWN: {
+        HWND self = window;
+        const POINT point = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+        if (point.y <= headerHeight) {
+            TapHeader(point);
+        }
+        return IsWindow(self) ? DefWindowProcW(self, message, wParam, lParam) : 0;
+    }
+    default:
+        break;
+    }
+    return CVireoView::WindowProc(message, wParam, lParam);
+}

@@ -1,0 +1,100 @@
+// The exports of the aygshell substitute.
+#include "platform/ce.h"
+#include "platform/pc/aygshell/BarOwner.h"
+#include "platform/pc/aygshell/MenuBar.h"
+#include "platform/pc/common/Screen.h"
+
+#include <vector>
+
+namespace {
+
+constexpr WPARAM InputPanelSetting = SPI_SETSIPINFO;
+
+// Frames that a window covering the whole screen has no use for; its title stands in the top bar.
+constexpr LONG_PTR FrameStyles = WS_CAPTION | WS_THICKFRAME | WS_SYSMENU | DS_MODALFRAME;
+constexpr LONG_PTR FrameExStyles = WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE;
+
+void CoverProgramRect(HWND dialog)
+{
+    SetWindowLongPtrW(dialog, GWL_STYLE, GetWindowLongPtrW(dialog, GWL_STYLE) & ~FrameStyles);
+    SetWindowLongPtrW(dialog, GWL_EXSTYLE, GetWindowLongPtrW(dialog, GWL_EXSTYLE) & ~FrameExStyles);
+    const RECT area = handheld::ProgramRect();
+    SetWindowPos(dialog, nullptr, area.left, area.top, area.right - area.left,
+                 area.bottom - area.top - handheld::BarHeight(),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+bool CanTakeFocus(HWND window, HWND root)
+{
+    return window && (window == root || IsChild(root, window)) && IsWindowVisible(window) &&
+           IsWindowEnabled(window);
+}
+
+} // namespace
+
+extern "C" BOOL WINAPI ce_AygshellStartup()
+{
+    return TRUE;
+}
+
+extern "C" BOOL WINAPI ce_SHCreateMenuBar(SHMENUBARINFO* info)
+{
+    if (!info || info->cbSize != sizeof(SHMENUBARINFO) || !IsWindow(info->hwndParent)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    info->hwndMB = MenuBar::Create(info->hwndParent, info->hInstRes, info->nToolBarId);
+    if (!info->hwndMB)
+        return FALSE;
+    KeepBarWithOwner(info->hwndParent);
+    return TRUE;
+}
+
+// Keeps the focus over the time the window is inactive. The bar comes forward by itself.
+extern "C" BOOL WINAPI ce_SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM, SHACTIVATEINFO* info, DWORD)
+{
+    const bool active = LOWORD(wParam) != WA_INACTIVE;
+    if (info)
+        info->fActive = active;
+    const HWND focus = GetFocus();
+    if (!active) {
+        if (info && CanTakeFocus(focus, window))
+            info->hwndLastFocus = focus;
+    } else if (IsWindowEnabled(window)) {
+        const HWND last = info ? info->hwndLastFocus : nullptr;
+        if (CanTakeFocus(last, window))
+            SetFocus(last);
+        else if (!CanTakeFocus(focus, window))
+            SetFocus(window);
+    }
+    return TRUE;
+}
+
+// The handheld has no input panel that could cover a window.
+extern "C" BOOL WINAPI ce_SHHandleWMSettingChange(HWND, WPARAM wParam, LPARAM, SHACTIVATEINFO* info)
+{
+    return wParam == InputPanelSetting && info != nullptr;
+}
+
+extern "C" BOOL WINAPI ce_SHInitDialog(SHINITDLGINFO* info)
+{
+    if (!info || (info->dwMask & SHIDIM_FLAGS) == 0 || !IsWindow(info->hDlg)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    if (info->dwFlags & SHIDIF_SIZEDLGFULLSCREEN)
+        CoverProgramRect(info->hDlg);
+    return TRUE;
+}
+
+// The Back key: a character less in the focused control.
+extern "C" void WINAPI ce_SHSendBackToFocusWindow(UINT message, WPARAM, LPARAM lParam)
+{
+    const HWND focus = GetFocus();
+    if (!focus || message != WM_HOTKEY || HIWORD(lParam) != VK_ESCAPE)
+        return;
+    const bool released = (LOWORD(lParam) & MOD_KEYUP) != 0;
+    PostMessageW(focus, released ? WM_KEYUP : WM_KEYDOWN, VK_BACK, released ? 0xC0000001 : 1);
+    if (!released)
+        PostMessageW(focus, WM_CHAR, L'\b', 1);
+}

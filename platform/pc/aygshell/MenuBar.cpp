@@ -1,0 +1,273 @@
+// MenuBar: the soft keys.
+#include "platform/pc/aygshell/MenuBar.h"
+
+#include "platform/pc/common/Screen.h"
+#include "platform/pc/common/SoftKeys.h"
+
+namespace {
+
+constexpr COLORREF BarTop = RGB(66, 104, 166);
+constexpr COLORREF BarBottom = RGB(22, 48, 102);
+constexpr COLORREF Pressed = RGB(110, 150, 205);
+constexpr COLORREF Divider = RGB(14, 30, 66);
+constexpr COLORREF Text = RGB(255, 255, 255);
+constexpr COLORREF DisabledText = RGB(140, 160, 195);
+
+HINSTANCE ThisModule()
+{
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<const wchar_t*>(&ThisModule), &module);
+    return module;
+}
+
+void Fill(HDC dc, const RECT& rect, COLORREF colour)
+{
+    SetBkColor(dc, colour);
+    ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
+}
+
+BYTE Between(BYTE from, BYTE to, int part, int whole)
+{
+    return static_cast<BYTE>(from + (to - from) * part / whole);
+}
+
+void FillGradient(HDC dc, const RECT& rect, COLORREF top, COLORREF bottom)
+{
+    const int height = rect.bottom - rect.top;
+    for (int y = 0; y < height; ++y)
+        Fill(dc, {rect.left, rect.top + y, rect.right, rect.top + y + 1},
+             RGB(Between(GetRValue(top), GetRValue(bottom), y, height),
+                 Between(GetGValue(top), GetGValue(bottom), y, height),
+                 Between(GetBValue(top), GetBValue(bottom), y, height)));
+}
+
+} // namespace
+
+HWND MenuBar::Create(HWND owner, HINSTANCE resources, UINT resourceId)
+{
+    if (!RegisterWindowClass())
+        return nullptr;
+    auto* bar = new MenuBar;
+    bar->m_owner = owner;
+    if (resourceId != 0 && !bar->Load(resources, resourceId)) {
+        delete bar;
+        return nullptr;
+    }
+    const RECT screen = handheld::ScreenRect();
+    const DWORD visible = IsWindowVisible(owner) ? WS_VISIBLE : 0;
+    // From WM_NCCREATE on the window owns the object.
+    const HWND window =
+        CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, handheld::MenuBarClass, nullptr,
+                        WS_POPUP | visible, screen.left, screen.bottom - handheld::BarHeight(),
+                        screen.right - screen.left, handheld::BarHeight(), owner, nullptr, ThisModule(), bar);
+    // At once: it takes the place of the bar that was just destroyed, and its owner may be busy for a while.
+    if (window)
+        UpdateWindow(window);
+    return window;
+}
+
+MenuBar::~MenuBar()
+{
+    // The owner was destroyed below the open menu, whose loop would wait for ever. EndMenu asks the menu's
+    // window, which goes with the owner too; the loop itself listens to the thread's message.
+    if (m_menuOpen) {
+        EndMenu();
+        PostThreadMessageW(GetCurrentThreadId(), WM_CANCELMODE, 0, 0);
+    }
+    if (m_menu)
+        DestroyMenu(m_menu);
+    if (m_font)
+        DeleteObject(m_font);
+}
+
+bool MenuBar::RegisterWindowClass()
+{
+    WNDCLASSW windowClass = {};
+    if (GetClassInfoW(ThisModule(), handheld::MenuBarClass, &windowClass))
+        return true;
+    windowClass = {};
+    windowClass.lpfnWndProc = WindowProcedure;
+    windowClass.hInstance = ThisModule();
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = handheld::MenuBarClass;
+    return RegisterClassW(&windowClass) != 0;
+}
+
+bool MenuBar::Load(HINSTANCE resources, UINT resourceId)
+{
+    const HRSRC resource = FindResourceW(resources, MAKEINTRESOURCEW(resourceId), RT_RCDATA);
+    if (!resource)
+        return false;
+    const HGLOBAL block = LoadResource(resources, resource);
+    const void* data = block ? LockResource(block) : nullptr;
+    if (!data || !handheld::ReadMenuBarResource(data, SizeofResource(resources, resource), m_resource))
+        return false;
+    for (size_t key = 0; key < m_texts.size() && key < m_resource.buttons.size(); ++key) {
+        wchar_t text[64] = {};
+        LoadStringW(resources, m_resource.buttons[key].textId, text, 64);
+        m_texts[key] = text;
+    }
+    m_menu = LoadMenuW(resources, MAKEINTRESOURCEW(m_resource.menuId));
+    m_font = handheld::CreateScreenFont(9, FW_BOLD);
+    return true;
+}
+
+RECT MenuBar::KeyRect(int key) const
+{
+    RECT rect;
+    GetClientRect(m_window, &rect);
+    const LONG middle = rect.right / 2;
+    if (key == 0)
+        rect.right = middle;
+    else
+        rect.left = middle;
+    return rect;
+}
+
+int MenuBar::KeyAt(LPARAM position) const
+{
+    const POINT point = {static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
+    for (int key = 0; key < KeyCount; ++key) {
+        const RECT rect = KeyRect(key);
+        if (PtInRect(&rect, point))
+            return key;
+    }
+    return NoKey;
+}
+
+bool MenuBar::IsUsable(int key) const
+{
+    return key >= 0 && static_cast<size_t>(key) < m_resource.buttons.size() &&
+           (m_resource.buttons[static_cast<size_t>(key)].state & handheld::SoftKeyButton::Enabled) != 0;
+}
+
+void MenuBar::SetPressed(int key)
+{
+    if (m_pressed == key)
+        return;
+    m_pressed = key;
+    InvalidateRect(m_window, nullptr, FALSE);
+    UpdateWindow(m_window);
+}
+
+// A disabled owner waits for a dialog or a message box that has no bar of its own to cover this one.
+void MenuBar::Press(int key)
+{
+    if (!IsUsable(key) || !IsWindowEnabled(m_owner))
+        return;
+    const handheld::SoftKeyButton& button = m_resource.buttons[static_cast<size_t>(key)];
+    const HMENU menu =
+        button.subMenu == handheld::SoftKeyButton::NoMenu ? nullptr : GetSubMenu(m_menu, button.subMenu);
+    if (menu)
+        OpenMenu(key, menu);
+    else
+        PostMessageW(m_owner, WM_COMMAND, button.command, reinterpret_cast<LPARAM>(m_window));
+}
+
+void MenuBar::OpenMenu(int key, HMENU menu)
+{
+    RECT bar;
+    GetWindowRect(m_window, &bar);
+    const UINT side = key == 0 ? TPM_LEFTALIGN : TPM_RIGHTALIGN;
+    RECT place = KeyRect(key);
+    MapWindowPoints(m_window, nullptr, reinterpret_cast<POINT*>(&place), 2);
+    const HWND window = m_window;
+    SetPressed(key);
+    m_menuOpen = true;
+    handheld::TrackMenu(menu, side | TPM_BOTTOMALIGN, key == 0 ? bar.left : bar.right, bar.top, m_owner,
+                        nullptr, {key, place});
+    // The owner and with it this bar may have gone while the menu was open.
+    if (IsWindow(window)) {
+        m_menuOpen = false;
+        SetPressed(NoKey);
+    }
+}
+
+void MenuBar::Paint(HDC dc) const
+{
+    RECT all;
+    GetClientRect(m_window, &all);
+    FillGradient(dc, all, BarTop, BarBottom);
+    SetBkMode(dc, TRANSPARENT);
+    const HGDIOBJ font = m_font ? SelectObject(dc, m_font) : nullptr;
+    for (int key = 0; key < KeyCount; ++key) {
+        RECT rect = KeyRect(key);
+        if (key == m_pressed)
+            FillGradient(dc, rect, Pressed, BarTop);
+        SetBkMode(dc, TRANSPARENT);
+        SetTextColor(dc, IsUsable(key) ? Text : DisabledText);
+        const std::wstring& text = m_texts[static_cast<size_t>(key)];
+        DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
+                  DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX);
+    }
+    if (font)
+        SelectObject(dc, font);
+    if (!m_resource.buttons.empty())
+        Fill(dc,
+             {all.right / 2, handheld::Scaled(4), all.right / 2 + handheld::Scaled(1),
+              all.bottom - handheld::Scaled(4)},
+             Divider);
+}
+
+LRESULT CALLBACK MenuBar::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_NCCREATE) {
+        auto* created = static_cast<MenuBar*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
+        created->m_window = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+    }
+    auto* bar = reinterpret_cast<MenuBar*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!bar)
+        return DefWindowProcW(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        delete bar;
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+    return bar->HandleMessage(message, wParam, lParam);
+}
+
+LRESULT MenuBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_MOUSEACTIVATE:
+        return MA_NOACTIVATE;
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT: {
+        PAINTSTRUCT paint;
+        Paint(BeginPaint(m_window, &paint));
+        EndPaint(m_window, &paint);
+        return 0;
+    }
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        if (const int key = KeyAt(lParam); IsUsable(key) && IsWindowEnabled(m_owner)) {
+            SetCapture(m_window);
+            SetPressed(key);
+        }
+        return 0;
+    case WM_LBUTTONUP:
+        if (const int key = m_pressed; GetCapture() == m_window) {
+            ReleaseCapture();
+            SetPressed(NoKey);
+            if (key == KeyAt(lParam))
+                Press(key);
+        }
+        return 0;
+    case WM_MOUSEMOVE:
+        // The stylus was lifted where nobody told the bar.
+        if (GetCapture() == m_window && (wParam & MK_LBUTTON) == 0)
+            ReleaseCapture();
+        return 0;
+    case WM_CAPTURECHANGED:
+        SetPressed(NoKey);
+        return 0;
+    case handheld::WM_PRESS_SOFT_KEY:
+        Press(static_cast<int>(wParam));
+        return 0;
+    default:
+        return DefWindowProcW(m_window, message, wParam, lParam);
+    }
+}

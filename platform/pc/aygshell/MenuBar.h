@@ -1,0 +1,49 @@
+// MenuBar: the window with the two soft keys at the bottom of the screen.
+#pragma once
+
+#include "platform/pc/common/MenuBarResource.h"
+
+#include <windows.h>
+
+#include <array>
+#include <string>
+
+class MenuBar
+{
+  public:
+    // Fails with null when the resource or its menu is missing. resourceId 0 gives a bar without keys. The
+    // window belongs to the owner and goes with it.
+    static HWND Create(HWND owner, HINSTANCE resources, UINT resourceId);
+
+    MenuBar(const MenuBar&) = delete;
+    MenuBar& operator=(const MenuBar&) = delete;
+
+  private:
+    static constexpr int KeyCount = 2;
+    static constexpr int NoKey = -1;
+
+    MenuBar() = default;
+    ~MenuBar();
+
+    static bool RegisterWindowClass();
+    static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    bool Load(HINSTANCE resources, UINT resourceId);
+    RECT KeyRect(int key) const;
+    int KeyAt(LPARAM position) const;
+    bool IsUsable(int key) const;
+    void SetPressed(int key);
+    void Press(int key);
+    void OpenMenu(int key, HMENU menu);
+    void Paint(HDC dc) const;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND m_window = nullptr;
+    HWND m_owner = nullptr;
+    handheld::MenuBarResource m_resource;
+    std::array<std::wstring, KeyCount> m_texts;
+    HMENU m_menu = nullptr; // the bar's menu with a pop-up for each key that has one; destroyed at the end
+    HFONT m_font = nullptr; // deleted at the end
+    int m_pressed = NoKey;
+    bool m_menuOpen = false;
+};

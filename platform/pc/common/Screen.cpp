@@ -1,0 +1,69 @@
+// The handheld's screen, from the active profile.
+#include "platform/pc/common/Screen.h"
+
+#include "platform/pc/common/ActiveProfile.h"
+
+namespace handheld {
+namespace {
+
+constexpr int BarHeightAt96 = 26;
+
+// The face that has the widths of the device's font and a visible bold; Wine's own Tahoma has no bold at
+// large sizes.
+constexpr wchar_t PreferredFace[] = L"DejaVu Sans Condensed";
+constexpr wchar_t FallbackFace[] = L"Tahoma";
+
+bool HasFace(const wchar_t* face)
+{
+    LOGFONTW wanted = {};
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    lstrcpynW(wanted.lfFaceName, face, LF_FACESIZE);
+    const auto found = [](const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM parameter) -> int {
+        *reinterpret_cast<bool*>(parameter) = true;
+        return 0;
+    };
+    bool has = false;
+    const HDC screen = GetDC(nullptr);
+    EnumFontFamiliesExW(screen, &wanted, found, reinterpret_cast<LPARAM>(&has), 0);
+    ReleaseDC(nullptr, screen);
+    return has;
+}
+
+} // namespace
+
+int Scaled(int n)
+{
+    return (n * ActiveProfile().dpi + 48) / 96;
+}
+
+int BarHeight()
+{
+    return Scaled(BarHeightAt96);
+}
+
+RECT ScreenRect()
+{
+    const Profile& profile = ActiveProfile();
+    return {0, 0, profile.width, profile.height};
+}
+
+RECT ProgramRect()
+{
+    RECT rect = ScreenRect();
+    rect.top += BarHeight();
+    return rect;
+}
+
+HFONT CreateScreenFont(int points, int weight)
+{
+    static const bool preferred = HasFace(PreferredFace);
+    LOGFONTW font = {};
+    font.lfHeight = -MulDiv(points, ActiveProfile().dpi, 72);
+    font.lfWeight = weight;
+    font.lfCharSet = DEFAULT_CHARSET;
+    font.lfQuality = CLEARTYPE_QUALITY;
+    lstrcpynW(font.lfFaceName, preferred ? PreferredFace : FallbackFace, LF_FACESIZE);
+    return CreateFontIndirectW(&font);
+}
+
+} // namespace handheld

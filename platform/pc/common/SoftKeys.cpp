@@ -1,0 +1,139 @@
+// Soft keys of the active window.
+#include "platform/pc/common/SoftKeys.h"
+
+namespace handheld {
+namespace {
+
+struct OpenMenu
+{
+    MenuKey ownKey;
+    int pressedKey = -1;
+    HHOOK hook = nullptr;
+};
+
+thread_local OpenMenu* s_openMenu = nullptr;
+
+// A menu runs its own message loop, which asks this filter about every message first.
+LRESULT CALLBACK FilterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
+{
+    if (code == MSGF_MENU && s_openMenu) {
+        const auto& message = *reinterpret_cast<const MSG*>(lParam);
+        const int key = SoftKeyIndex(message.wParam);
+        if (key >= 0 && message.message == WM_KEYDOWN) {
+            if (key != s_openMenu->ownKey.index)
+                s_openMenu->pressedKey = key;
+            EndMenu();
+            return TRUE;
+        }
+        if (key >= 0 && message.message == WM_KEYUP)
+            return TRUE;
+        const bool tap = message.message == WM_LBUTTONDOWN || message.message == WM_LBUTTONDBLCLK;
+        if (tap && PtInRect(&s_openMenu->ownKey.place, message.pt)) {
+            EndMenu();
+            return TRUE;
+        }
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+struct BoxButtons
+{
+    HWND first = nullptr;
+    HWND last = nullptr;
+    int count = 0;
+
+    explicit BoxButtons(HWND box) { EnumChildWindows(box, Add, reinterpret_cast<LPARAM>(this)); }
+
+    static BOOL CALLBACK Add(HWND child, LPARAM parameter)
+    {
+        auto& buttons = *reinterpret_cast<BoxButtons*>(parameter);
+        wchar_t name[16];
+        // The box has all the buttons there are and hides those it does not need.
+        if (GetClassNameW(child, name, 16) == 0 || lstrcmpiW(name, L"Button") != 0 || !IsWindowVisible(child))
+            return TRUE;
+        if (!buttons.first)
+            buttons.first = child;
+        buttons.last = child;
+        ++buttons.count;
+        return TRUE;
+    }
+};
+
+LRESULT CALLBACK FilterBoxMessage(int code, WPARAM wParam, LPARAM lParam)
+{
+    if (code == MSGF_DIALOGBOX) {
+        const auto& message = *reinterpret_cast<const MSG*>(lParam);
+        const int key = SoftKeyIndex(message.wParam);
+        if (key >= 0 && message.message == WM_KEYDOWN) {
+            const BoxButtons buttons(GetActiveWindow());
+            if (key == 0)
+                PostMessageW(buttons.first, BM_CLICK, 0, 0);
+            else if (buttons.count > 1)
+                PostMessageW(buttons.last, BM_CLICK, 0, 0);
+            return TRUE;
+        }
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+} // namespace
+
+HWND FindMenuBar(HWND owner)
+{
+    for (HWND bar = nullptr; (bar = FindWindowExW(nullptr, bar, MenuBarClass, nullptr)) != nullptr;)
+        if (GetWindow(bar, GW_OWNER) == owner)
+            return bar;
+    return nullptr;
+}
+
+int SoftKeyIndex(WPARAM virtualKey)
+{
+    return virtualKey == VK_F1 ? 0 : virtualKey == VK_F2 ? 1 : -1;
+}
+
+bool HandleSoftKey(const MSG& message)
+{
+    if (message.message != WM_KEYDOWN && message.message != WM_KEYUP)
+        return false;
+    const int key = SoftKeyIndex(message.wParam);
+    if (key < 0)
+        return false;
+    const HWND bar = FindMenuBar(GetActiveWindow());
+    if (!bar)
+        return false;
+    const bool repeated = (message.lParam & (1 << 30)) != 0;
+    if (message.message == WM_KEYDOWN && !repeated)
+        SendMessageW(bar, WM_PRESS_SOFT_KEY, static_cast<WPARAM>(key), 0);
+    return true;
+}
+
+int TrackMenu(HMENU menu, UINT flags, int x, int y, HWND owner, const TPMPARAMS* parameters,
+              const MenuKey& ownKey)
+{
+    OpenMenu open;
+    open.ownKey = ownKey;
+    open.hook = SetWindowsHookExW(WH_MSGFILTER, FilterMenuMessage, nullptr, GetCurrentThreadId());
+    OpenMenu* const outer = s_openMenu;
+    s_openMenu = &open;
+    TPMPARAMS copy = {};
+    if (parameters)
+        copy = *parameters;
+    const int result = TrackPopupMenuEx(menu, flags, x, y, owner, parameters ? &copy : nullptr);
+    s_openMenu = outer;
+    if (open.hook)
+        UnhookWindowsHookEx(open.hook);
+    if (open.pressedKey >= 0)
+        PostMessageW(owner, WM_KEYDOWN, open.pressedKey == 0 ? VK_F1 : VK_F2, 1);
+    return result;
+}
+
+int ShowMessageBox(HWND owner, const wchar_t* text, const wchar_t* caption, UINT type)
+{
+    const HHOOK hook = SetWindowsHookExW(WH_MSGFILTER, FilterBoxMessage, nullptr, GetCurrentThreadId());
+    const int answer = MessageBoxW(owner, text, caption, type);
+    if (hook)
+        UnhookWindowsHookEx(hook);
+    return answer;
+}
+
+} // namespace handheld

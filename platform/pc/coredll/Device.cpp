@@ -1,0 +1,56 @@
+// What kind of device this is: its system version, platform name and screen resolution.
+#include "platform/pc/common/ActiveProfile.h"
+
+#include <windows.h>
+
+namespace {
+
+constexpr UINT GetPlatformType = 257;
+constexpr DWORD WindowsCe = 3;
+
+} // namespace
+
+extern "C" BOOL WINAPI ce_GetVersionExW(OSVERSIONINFOW* version)
+{
+    if (!version || version->dwOSVersionInfoSize < sizeof(OSVERSIONINFOW)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    version->dwMajorVersion = 5;
+    version->dwMinorVersion = 1;
+    version->dwBuildNumber = 195;
+    version->dwPlatformId = WindowsCe;
+    version->szCSDVersion[0] = L'\0';
+    return TRUE;
+}
+
+// The size of the platform's name is counted in characters, with its end.
+extern "C" BOOL WINAPI ce_SystemParametersInfoW(UINT action, UINT size, void* buffer, UINT flags)
+{
+    if (action != GetPlatformType)
+        return SystemParametersInfoW(action, size, buffer, flags);
+    const std::wstring& name = handheld::ActiveProfile().platformName;
+    if (!buffer || size <= name.size()) {
+        SetLastError(ERROR_INSUFFICIENT_BUFFER);
+        return FALSE;
+    }
+    lstrcpyW(static_cast<wchar_t*>(buffer), name.c_str());
+    return TRUE;
+}
+
+extern "C" int WINAPI ce_GetDeviceCaps(HDC dc, int index)
+{
+    if (GetDeviceCaps(dc, TECHNOLOGY) == DT_RASDISPLAY) {
+        const handheld::Profile& profile = handheld::ActiveProfile();
+        switch (index) {
+        case LOGPIXELSX:
+        case LOGPIXELSY:
+            return profile.dpi;
+        case HORZRES:
+            return profile.width;
+        case VERTRES:
+            return profile.height;
+        }
+    }
+    return GetDeviceCaps(dc, index);
+}

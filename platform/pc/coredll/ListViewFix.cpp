@@ -1,0 +1,63 @@
+// Corrects the repainting of a virtual list view: Wine 8.0 scrolls and paints before it moves the selection
+// mark, and it leaves the two leftmost pixel columns out. A list whose rows are drawn by the mark would show
+// several selected rows.
+#include "platform/pc/coredll/ListViewFix.h"
+
+#include <commctrl.h>
+
+namespace {
+
+WNDPROC s_original; // the one procedure of all list views
+
+struct Position
+{
+    LRESULT mark;
+    LRESULT top;
+    bool operator==(const Position& other) const { return mark == other.mark && top == other.top; }
+};
+
+Position PositionOf(HWND list)
+{
+    return {CallWindowProcW(s_original, list, LVM_GETSELECTIONMARK, 0, 0),
+            CallWindowProcW(s_original, list, LVM_GETTOPINDEX, 0, 0)};
+}
+
+bool CanMoveList(UINT message)
+{
+    switch (message) {
+    case WM_KEYDOWN:
+    case WM_CHAR:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_MOUSEWHEEL:
+    case WM_VSCROLL:
+    case LVM_SETITEMSTATE:
+    case LVM_SETSELECTIONMARK:
+    case LVM_ENSUREVISIBLE:
+    case LVM_SCROLL:
+        return true;
+    default:
+        return false;
+    }
+}
+
+LRESULT CALLBACK InnerProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!CanMoveList(message))
+        return CallWindowProcW(s_original, list, message, wParam, lParam);
+    const Position before = PositionOf(list);
+    const LRESULT result = CallWindowProcW(s_original, list, message, wParam, lParam);
+    // The message may have ended the window (a double click that closes its dialog).
+    if (IsWindow(list) && !(PositionOf(list) == before))
+        InvalidateRect(list, nullptr, FALSE);
+    return result;
+}
+
+} // namespace
+
+void RepaintWhenListMoves(HWND list)
+{
+    const LONG_PTR replaced =
+        SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(InnerProcedure));
+    s_original = reinterpret_cast<WNDPROC>(replaced);
+}

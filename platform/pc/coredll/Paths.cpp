@@ -1,0 +1,91 @@
+// Paths of programs and names of files.
+#include "platform/pc/common/FindPattern.h"
+
+#include <windows.h>
+
+namespace {
+
+// Modules lie on 64 KB borders; anything else in a module's place is a process id, as a device takes it.
+bool IsProcessId(HMODULE module)
+{
+    return (reinterpret_cast<ULONG_PTR>(module) & 0xFFFF) != 0;
+}
+
+DWORD PathOfProcess(DWORD process, wchar_t* path, DWORD size)
+{
+    if (size == 0)
+        return 0;
+    *path = L'\0';
+    const HANDLE handle = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
+    if (!handle)
+        return 0;
+    DWORD length = size;
+    const BOOL known = QueryFullProcessImageNameW(handle, 0, path, &length);
+    const DWORD error = GetLastError();
+    CloseHandle(handle);
+    if (known)
+        return length;
+    *path = L'\0';
+    SetLastError(error);
+    return 0;
+}
+
+bool IsDots(const wchar_t* name)
+{
+    return lstrcmpW(name, L".") == 0 || lstrcmpW(name, L"..") == 0;
+}
+
+const wchar_t* NamePart(const wchar_t* path)
+{
+    const wchar_t* name = path;
+    for (const wchar_t* c = path; *c; ++c)
+        if (*c == L'\\' || *c == L'/')
+            name = c + 1;
+    return name;
+}
+
+} // namespace
+
+extern "C" DWORD WINAPI ce_GetModuleFileNameW(HMODULE module, wchar_t* path, DWORD size)
+{
+    if (IsProcessId(module))
+        return PathOfProcess(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(module)), path, size);
+    return GetModuleFileNameW(module, path, size);
+}
+
+// The PC's search also yields "." and ".." and takes "*.lnk" for "a.lnkx".
+extern "C" HANDLE WINAPI ce_FindFirstFileW(const wchar_t* pattern, WIN32_FIND_DATAW* data)
+{
+    const HANDLE search = FindFirstFileW(pattern, data);
+    if (search == INVALID_HANDLE_VALUE)
+        return search;
+    while (IsDots(data->cFileName) || !handheld::MatchesPattern(data->cFileName, NamePart(pattern)))
+        if (!FindNextFileW(search, data)) {
+            FindClose(search);
+            SetLastError(ERROR_FILE_NOT_FOUND);
+            return INVALID_HANDLE_VALUE;
+        }
+    return search;
+}
+
+// The libraries of the device lie beside this one, wherever the program was started from.
+extern "C" HMODULE WINAPI ce_LoadLibraryW(const wchar_t* name)
+{
+    if (NamePart(name) == name) {
+        HMODULE self = nullptr;
+        wchar_t path[MAX_PATH];
+        GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                               GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                           reinterpret_cast<const wchar_t*>(&ce_LoadLibraryW), &self);
+        const DWORD length = GetModuleFileNameW(self, path, MAX_PATH);
+        if (length > 0 && length < MAX_PATH) {
+            auto* file = const_cast<wchar_t*>(NamePart(path));
+            if (file - path + lstrlenW(name) < MAX_PATH) {
+                lstrcpyW(file, name);
+                if (const HMODULE module = LoadLibraryW(path))
+                    return module;
+            }
+        }
+    }
+    return LoadLibraryW(name);
+}

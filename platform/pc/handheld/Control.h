@@ -1,0 +1,19 @@
+// Control: the hidden window by which scripts find the handheld and end it.
+#pragma once
+
+#include "platform/pc/handheld/ShellWindow.h"
+
+class Control final : public ShellWindow
+{
+  public:
+    // Null when no handheld runs on this desktop.
+    static HWND Find();
+    // Whether its shell's windows are on the screen.
+    static bool IsReady(HWND control);
+
+    bool Open();
+    void SetReady();
+
+  private:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+};

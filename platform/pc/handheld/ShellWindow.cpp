@@ -1,0 +1,61 @@
+// ShellWindow: a window of the handheld's shell.
+#include "platform/pc/handheld/ShellWindow.h"
+
+ShellWindow::~ShellWindow()
+{
+    if (m_window)
+        DestroyWindow(m_window);
+}
+
+bool ShellWindow::Create(const wchar_t* className, const wchar_t* title, DWORD style, DWORD exStyle,
+                         const RECT& rect)
+{
+    WNDCLASSW windowClass = {};
+    windowClass.lpfnWndProc = WindowProcedure;
+    windowClass.hInstance = GetModuleHandleW(nullptr);
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = className;
+    if (!RegisterClassW(&windowClass))
+        return false;
+    CreateWindowExW(exStyle, className, title, style | WS_POPUP, rect.left, rect.top, rect.right - rect.left,
+                    rect.bottom - rect.top, nullptr, nullptr, windowClass.hInstance, this);
+    return m_window != nullptr;
+}
+
+LRESULT ShellWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT: {
+        Surface surface(m_window);
+        Paint(surface);
+        return 0;
+    }
+    case WM_CLOSE: // the shell does not end
+        return 0;
+    default:
+        return DefWindowProcW(m_window, message, wParam, lParam);
+    }
+}
+
+void ShellWindow::Paint(Surface&) {}
+
+LRESULT CALLBACK ShellWindow::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_NCCREATE) {
+        auto* created =
+            static_cast<ShellWindow*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
+        created->m_window = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+    }
+    auto* self = reinterpret_cast<ShellWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!self)
+        return DefWindowProcW(window, message, wParam, lParam);
+    const LRESULT result = self->HandleMessage(message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        self->m_window = nullptr;
+    }
+    return result;
+}

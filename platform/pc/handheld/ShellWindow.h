@@ -1,0 +1,28 @@
+// ShellWindow: what the windows of the handheld's shell have in common.
+#pragma once
+
+#include "platform/pc/handheld/Surface.h"
+
+class ShellWindow
+{
+  public:
+    virtual ~ShellWindow();
+    ShellWindow(const ShellWindow&) = delete;
+    ShellWindow& operator=(const ShellWindow&) = delete;
+
+    HWND Window() const { return m_window; }
+
+  protected:
+    ShellWindow() = default;
+
+    // Registers the class and creates a pop-up over the rectangle; false when the system refuses.
+    bool Create(const wchar_t* className, const wchar_t* title, DWORD style, DWORD exStyle, const RECT& rect);
+
+    virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual void Paint(Surface& surface);
+
+  private:
+    static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND m_window = nullptr;
+};

@@ -1,0 +1,38 @@
+// Today: the home screen, below every program.
+#pragma once
+
+#include "platform/pc/handheld/ShellWindow.h"
+
+#include <vector>
+
+class Today final : public ShellWindow
+{
+  public:
+    Today();
+    ~Today() override;
+
+    bool Open();
+
+  private:
+    struct Line
+    {
+        std::wstring title;
+        std::wstring detail;
+        COLORREF badge; // of the mark in front
+    };
+
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void Paint(Surface& surface) override;
+    void PaintLine(Surface& surface, const Line& line, int top) const;
+    void PaintSoftKeys(Surface& surface) const;
+    RECT SoftKeyBar() const;
+    void StartProgram();
+    void UpdateDate();
+
+    std::wstring m_date;
+    std::wstring m_program; // path of the program on the left soft key; empty when it is not there
+    std::vector<Line> m_lines;
+    HFONT m_bold;
+    HFONT m_normal;
+    HFONT m_large;
+};

@@ -1,0 +1,27 @@
+// TopBar: the bar above every program, with the active window's title and the time.
+#pragma once
+
+#include "platform/pc/handheld/ShellWindow.h"
+
+class TopBar final : public ShellWindow
+{
+  public:
+    // today: the window that is shown as "Start".
+    explicit TopBar(HWND today);
+    ~TopBar() override;
+
+    bool Open();
+
+  private:
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void Paint(Surface& surface) override;
+    std::wstring TitleOfForeground() const;
+    void MakeRoom(HWND window) const;
+    void Update();
+
+    HWND m_today;
+    std::wstring m_title;
+    std::wstring m_time;
+    HFONT m_bold;
+    HFONT m_normal;
+};

@@ -1,0 +1,77 @@
+// Resource and command identifiers. The same number may name a resource, a command and a control: the kinds
+// are apart.
+#pragma once
+
+// strings
+#define IDS_TITLE 1
+#define IDS_HIDE 3
+#define IDS_MENU 4
+#define IDS_BLANK 5
+#define IDS_DONE 6
+#define IDS_OK 103
+
+// icon of the program
+#define IDI_PROGRAM 101
+
+// menu bars (RCDATA) and the menus behind their right soft key
+#define IDB_TASKS 172
+#define IDB_SYSINFO 111
+#define IDB_START 174
+#define IDB_PROCS 171
+#define IDB_INFORMATION 170
+#define IDB_WINDOWS 173
+#define IDM_TASKS 134
+#define IDM_SYSINFO 102
+#define IDM_START 136
+#define IDM_PROCS 132
+#define IDM_WINDOWS 173
+
+// accelerator tables
+#define IDA_PROGRAM 2
+#define IDA_TASKS 33593
+#define IDA_SYSINFO 33594
+#define IDA_START 137
+#define IDA_PROCS 33595
+#define IDA_INFORMATION 115
+
+// dialog templates
+#define IDD_INFORMATION 125
+#define IDD_WINDOWS 133
+
+// controls
+#define IDC_LIST 110
+#define IDC_INFORMATION_TEXT 126
+#define IDC_WINDOWS_TREE 1000
+
+// commands shared by the pages
+#define CMD_HIDE 112
+#define CMD_MENU 113
+#define CMD_ACTIVATE_ITEM 114
+#define CMD_ABOUT 32771
+#define CMD_EXIT 32773
+#define CMD_PREVIOUS_PAGE 32774
+#define CMD_NEXT_PAGE 32775
+#define CMD_REFRESH 32793
+#define CMD_SHOW_TASKS 32796
+#define CMD_SHOW_SYSINFO 32797
+#define CMD_SHOW_PROCS 32798
+#define CMD_SHOW_START 32803
+#define CMD_SETTINGS 32813
+#define CMD_HARDWARE_KEYS 32814
+#define CMD_CLOSE_ALL 32816
+
+// commands of the pages
+#define CMD_WINDOWS_LIST 32792
+#define CMD_APPLICATION_INFO 32799
+#define CMD_CLOSE_APPLICATION 32800
+#define CMD_SWITCH_TO_APPLICATION 32801
+#define CMD_WINDOW_INFO 0x8022
+
+// commands of the dialogs
+#define CMD_DIALOG_ACTION 6
+#define CMD_TEXT_DOWN 116
+#define CMD_TEXT_LEFT 117
+#define CMD_TEXT_RIGHT 118
+#define CMD_TEXT_TAB 119
+#define CMD_TEXT_UP 120
+#define CMD_TEXT_ENTER 121

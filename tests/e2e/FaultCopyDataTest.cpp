@@ -1,0 +1,111 @@
+// Records from other programs: whatever they hold, the running program takes them and goes on.
+#include "tests/e2e/ShellSession.h"
+
+using namespace rig;
+
+namespace {
+
+constexpr ULONG_PTR ButtonRecord = 1;
+constexpr size_t RecordSize = 1036;
+
+} // namespace
+
+class FaultCopyDataTest : public ShellSession
+{
+  protected:
+    // The program's answer; 99 when it gives none.
+    LRESULT Hand(ULONG_PTR kind, const std::vector<unsigned char>& bytes) const
+    {
+        COPYDATASTRUCT data = {kind, static_cast<DWORD>(bytes.size()),
+                               bytes.empty() ? nullptr : const_cast<unsigned char*>(bytes.data())};
+        DWORD_PTR answer = 99;
+        if (!SendMessageTimeoutW(main, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_NORMAL, 10000,
+                                 &answer))
+            return 99;
+        return static_cast<LRESULT>(answer);
+    }
+
+    // A whole record: a button without a key, two actions, and the rest of the bytes.
+    static std::vector<unsigned char> Record(int press, int hold, unsigned char filling)
+    {
+        std::vector<unsigned char> bytes(RecordSize, filling);
+        const int32_t numbers[] = {193, press, hold};
+        memcpy(bytes.data(), numbers, sizeof(numbers));
+        return bytes;
+    }
+
+    void ExpectGoesOn() const
+    {
+        EXPECT_FALSE(program->Dialog());
+        EXPECT_FALSE(program->Notice());
+        ExpectKeysReachThePage(TasksPage);
+    }
+};
+
+TEST_F(FaultCopyDataTest, RecordsOfOtherKinds)
+{
+    for (ULONG_PTR kind : {ULONG_PTR{0}, ULONG_PTR{2}, ULONG_PTR{0x8064}, ~ULONG_PTR{0}})
+        EXPECT_EQ(TRUE, Hand(kind, Record(4, 4, 0))) << kind;
+    ExpectGoesOn();
+}
+
+TEST_F(FaultCopyDataTest, RecordsOfOtherLengths)
+{
+    const std::vector<unsigned char> whole = Record(4, 4, 0);
+    for (size_t size : {size_t{0}, size_t{1}, size_t{4}, size_t{12}, RecordSize - 1}) {
+        const std::vector<unsigned char> cut(whole.begin(), whole.begin() + static_cast<int>(size));
+        EXPECT_EQ(TRUE, Hand(ButtonRecord, cut)) << size;
+    }
+    for (size_t size : {RecordSize + 1, 2 * RecordSize, size_t{1000000}}) {
+        std::vector<unsigned char> longer = whole;
+        longer.resize(size);
+        EXPECT_EQ(TRUE, Hand(ButtonRecord, longer)) << size;
+    }
+    ExpectGoesOn();
+}
+
+TEST_F(FaultCopyDataTest, TextsWithoutAnEnd)
+{
+    // Actions that do nothing, with files that fill the record to its last byte.
+    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(1, 1, 'f')));
+    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(0, 0, 0xFF)));
+    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(1, 1, '%')));
+    ExpectGoesOn();
+}
+
+TEST_F(FaultCopyDataTest, ActionsThatDoNotExist)
+{
+    for (int action : {13, 100, 0x7FFFFFFF, -1, INT_MIN})
+        EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(action, action, 0))) << action;
+    ExpectGoesOn();
+}
+
+TEST_F(FaultCopyDataTest, AThousandOfThem)
+{
+    const std::vector<unsigned char> record = Record(1, 1, 'x');
+    for (int i = 0; i < 1000; i++)
+        ASSERT_EQ(TRUE, Hand(ButtonRecord, record)) << i;
+    ExpectGoesOn();
+}
+
+TEST_F(FaultCopyDataTest, WhileADialogIsOpen)
+{
+    const HWND dialog = OpenReport();
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(TRUE, Hand(2, Record(4, 4, 0)));
+    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(1, 1, 'f')));
+    EXPECT_TRUE(IsWindow(dialog));
+    ASSERT_TRUE(InFront(dialog));
+    PressKey(VK_RETURN);
+    EXPECT_TRUE(WaitFor([=] { return !IsWindow(dialog); }));
+    ExpectGoesOn();
+}
+
+TEST_F(FaultCopyDataTest, WhileTheMenuIsOpen)
+{
+    ASSERT_TRUE(PressMenuKey());
+    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(1, 1, 'f')));
+    PressKey(VK_ESCAPE);
+    EXPECT_TRUE(WaitFor([] { return !OpenMenu(); }));
+    ExpectGoesOn();
+}

@@ -1,0 +1,155 @@
+// ShellSession: Quorvane running in front, where the end-to-end tests of the shell begin.
+#include "tests/e2e/ShellSession.h"
+
+#include "tests/rig/Actor.h"
+#include "tests/rig/Controls.h"
+#include "tests/rig/Picture.h"
+
+using namespace rig;
+
+ShellSession::ShellSession()
+{
+    SetProcessDPIAware();
+}
+
+void ShellSession::Launch(const std::wstring& arguments, const std::wstring& folder)
+{
+    program.emplace(Program::Start(arguments, folder));
+    main = program->WaitForMainWindow();
+}
+
+void ShellSession::SetUp()
+{
+    Launch();
+    ASSERT_TRUE(main) << "the main window did not appear";
+    ASSERT_TRUE(program->WaitForPage(TasksPage));
+    ASSERT_TRUE(WaitFor([&] { return GetForegroundWindow() == main; })) << "it did not come to the front";
+}
+
+bool ShellSession::InFront(HWND window) const
+{
+    return WaitFor([=] { return GetForegroundWindow() == window; });
+}
+
+void ShellSession::ExpectKeysReachThePage(int page) const
+{
+    ASSERT_TRUE(InFront(main));
+    EXPECT_EQ(page, program->VisiblePage());
+    PressKey(VK_RIGHT);
+    EXPECT_TRUE(program->WaitForPage(PageAfter(page, 1))) << "the key did not reach page " << page;
+    PressKey(VK_LEFT);
+    EXPECT_TRUE(program->WaitForPage(page)) << "the key did not reach the page after page " << page;
+}
+
+void ShellSession::ExpectEnd(DWORD code) const
+{
+    const std::optional<DWORD> ended = program->ExitCode(Patience);
+    ASSERT_TRUE(ended) << "the program does not end";
+    EXPECT_EQ(code, *ended);
+}
+
+// That refresh is seen by a task that has come up silently before it.
+int ShellSession::SettledCount() const
+{
+    const HWND list = program->List(TasksPage);
+    const auto refreshed = [&] {
+        Send(main, WM_COMMAND, RefreshCommand);
+        return ListCount(list);
+    };
+    const int before = refreshed();
+    const Actor actor;
+    const HWND window = actor.Make({.style = WS_POPUP});
+    ShowWindowAsync(window, SW_SHOWNA);
+    EXPECT_TRUE(WaitFor([=] { return ListCount(list) == before + 1; }))
+        << "no refresh after the first showing";
+    actor.Vanish(window);
+    EXPECT_EQ(before, refreshed());
+    return before;
+}
+
+int ShellSession::StripHeight(int page) const
+{
+    return ScreenRectOf(program->List(page)).top - ScreenRectOf(program->Page(page)).top;
+}
+
+POINT ShellSession::StripPoint(int page, int x) const
+{
+    return PointIn(program->Page(page), x, StripHeight(page) / 2);
+}
+
+HWND ShellSession::PressMenuKey() const
+{
+    PressKey(VK_F2);
+    return WaitFor([] { return OpenMenu(); });
+}
+
+void ShellSession::MenuKeys(WORD key, int times) const
+{
+    ASSERT_TRUE(OpenMenu()) << "no menu is open for the key " << key;
+    PressKey(key, times);
+}
+
+HWND ShellSession::OpenReport() const
+{
+    program->Command(ApplicationInfoCommand);
+    return WaitFor([&] {
+        const HWND dialog = program->Dialog();
+        return dialog && GetDlgItem(dialog, 126) ? dialog : nullptr;
+    });
+}
+
+HWND ShellSession::OpenWindowsList() const
+{
+    program->Command(WindowsListCommand);
+    return WaitFor([&] {
+        const HWND dialog = program->Dialog();
+        const HWND tree = dialog ? GetDlgItem(dialog, 1000) : nullptr;
+        return tree && TreeItems(tree).size() > 1 ? dialog : nullptr;
+    });
+}
+
+int Scaled(int n)
+{
+    static const int dpi = [] {
+        const HDC screen = GetDC(nullptr);
+        const int result = GetDeviceCaps(screen, LOGPIXELSX);
+        ReleaseDC(nullptr, screen);
+        return result;
+    }();
+    return (n * dpi + 48) / 96;
+}
+
+RECT ScreenRect()
+{
+    return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+HWND BarOf(HWND owner)
+{
+    return FindTopWindow({.className = L"menu_worker", .owner = owner});
+}
+
+POINT SoftKeyPoint(HWND bar, int key)
+{
+    const RECT rect = ScreenRectOf(bar);
+    const LONG width = rect.right - rect.left;
+    return {rect.left + width / 4 + key * width / 2, (rect.top + rect.bottom) / 2};
+}
+
+std::wstring BoxText(HWND box)
+{
+    for (HWND child = nullptr; (child = FindWindowExW(box, child, L"Static", nullptr)) != nullptr;) {
+        const std::wstring text = TextOf(child);
+        if (!text.empty())
+            return text;
+    }
+    return {};
+}
+
+int PageAfter(int page, int steps)
+{
+    int place = 0;
+    while (PageRing[place] != page)
+        place++;
+    return PageRing[(place + steps + 4) % 4];
+}

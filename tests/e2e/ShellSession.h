@@ -1,0 +1,90 @@
+// ShellSession: Quorvane running in front, where the end-to-end tests of the shell begin.
+#pragma once
+
+#include "tests/rig/Desktop.h"
+#include "tests/rig/Input.h"
+#include "tests/rig/Program.h"
+#include "tests/rig/WaitFor.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+enum PageNumber : int
+{
+    TasksPage = 1,
+    SysInfoPage = 2,
+    LauncherPage = 3,
+    ProcsPage = 4
+};
+
+// The pages in the order of the arrows, to the right.
+inline constexpr int PageRing[] = {TasksPage, LauncherPage, SysInfoPage, ProcsPage};
+
+enum Command : int
+{
+    HideCommand = 112,
+    AboutCommand = 32771,
+    ExitCommand = 32773,
+    WindowsListCommand = 32792,
+    RefreshCommand = 32793,
+    ShowTasksCommand = 32796,
+    ShowSysInfoCommand = 32797,
+    ShowProcsCommand = 32798,
+    ApplicationInfoCommand = 32799,
+    ShowStartCommand = 32803,
+    SettingsCommand = 32813,
+    WindowInfoCommand = 0x8022 // of the Windows list
+};
+
+class ShellSession : public testing::Test
+{
+  protected:
+    std::optional<rig::Program> program;
+    HWND main = nullptr;
+
+    // Screen coordinates are pixels in this process too, on any profile.
+    ShellSession();
+
+    // Starts the program and waits until it is in front on its first page.
+    void SetUp() override;
+
+    // The same with a command line and from another folder; without waiting.
+    void Launch(const std::wstring& arguments = L"", const std::wstring& folder = rig::ProgramFolder());
+
+    bool InFront(HWND window) const;
+    // Gives the program the front, as a user who switches to it.
+    bool ComeToFront() const { return rig::BringToFront(main); }
+    // A key that steps to the next page arrives at the page shown, and the step back too.
+    void ExpectKeysReachThePage(int page) const;
+    // The process ends in time with this code.
+    void ExpectEnd(DWORD code = 0) const;
+
+    // The rows of the first page once the refresh that follows its first showing is over.
+    int SettledCount() const;
+
+    // The height of a page's title strip: what the list leaves of the page above itself.
+    int StripHeight(int page) const;
+    // On the screen, in the middle of a page's strip.
+    POINT StripPoint(int page, int x) const;
+
+    // The soft-key menu, opened by its key. Null when it does not open.
+    HWND PressMenuKey() const;
+    // The report on the program's own window, and the list of its windows. Null when they do not open.
+    HWND OpenReport() const;
+    HWND OpenWindowsList() const;
+    // A key of the open menu; not sent when there is none, for it would reach the page.
+    void MenuKeys(WORD key, int times = 1) const;
+};
+
+// n pixels at 96 dots an inch are so many on this screen.
+int Scaled(int n);
+RECT ScreenRect();
+// The visible soft-key bar of a window; null without one.
+HWND BarOf(HWND owner);
+// The middle of one of its two keys on the screen: 0 left, 1 right.
+POINT SoftKeyPoint(HWND bar, int key);
+// The text of a message box, without its caption.
+std::wstring BoxText(HWND box);
+int PageAfter(int page, int steps);

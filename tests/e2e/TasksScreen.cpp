@@ -1,0 +1,212 @@
+// TasksScreen: the program on its page of running applications, used as a user does.
+#include "tests/e2e/TasksScreen.h"
+
+#include "tests/rig/Controls.h"
+#include "tests/rig/Desktop.h"
+#include "tests/rig/Input.h"
+#include "tests/rig/WaitFor.h"
+
+using namespace rig;
+
+std::optional<Program> TasksScreen::program;
+DWORD TasksScreen::startedAt;
+
+namespace {
+
+constexpr DWORD AfterLateStarters = 1500; // ms: the first showing is followed by a refresh a second later
+constexpr wchar_t HandleLabel[] = L"\r\nWindow handle: 0x";
+
+bool IsOrIsOwnedBy(HWND window, HWND owner)
+{
+    while (window && window != owner)
+        window = GetWindow(window, GW_OWNER);
+    return window != nullptr;
+}
+
+bool AreInOrder(const std::vector<HWND>& wanted)
+{
+    auto next = wanted.begin();
+    for (HWND window : TopWindows()) {
+        if (next != wanted.end() && window == *next)
+            ++next;
+    }
+    return next == wanted.end();
+}
+
+// Whether no other program's window is before it.
+bool IsFrontMost(HWND wanted)
+{
+    for (HWND window : TopWindows()) {
+        if (IsWindowVisible(window) && !(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW))
+            return IsOrIsOwnedBy(window, wanted);
+    }
+    return false;
+}
+
+} // namespace
+
+rig::ActorWindowSpec Task(const std::wstring& title)
+{
+    return {.title = title};
+}
+
+bool TasksScreen::Start()
+{
+    program.reset();
+    program.emplace(Program::Start());
+    if (!program->WaitForMainWindow() || !program->WaitForPage(1))
+        return false;
+    startedAt = GetTickCount();
+    return true;
+}
+
+bool TasksScreen::IsReady()
+{
+    return program && program->IsRunning() && IsWindow(Main()) && !program->Dialog() && !OpenMenu();
+}
+
+void TasksScreen::SetUp()
+{
+    if (!IsReady()) {
+        ASSERT_TRUE(Start());
+    }
+    HideNotice();
+    Send(Main(), WM_COMMAND, CommandShowTasks);
+    ASSERT_TRUE(program->WaitForPage(1));
+    list = program->List(1);
+    ASSERT_TRUE(list);
+    Front();
+}
+
+void TasksScreen::TearDown()
+{
+    // What a failed test leaves open would fail the next one too.
+    if (HasFailure())
+        program.reset();
+}
+
+HWND TasksScreen::Today()
+{
+    for (HWND window : TopWindows()) {
+        if (ClassOf(window) == L"DesktopExplorerWindow" && ExecutableOf(ProcessOf(window)) == L"handheld.exe")
+            return window;
+    }
+    return nullptr;
+}
+
+bool TasksScreen::Raise(HWND window)
+{
+    // Wine shows the new foreground window before the others and leaves it where it was in its own order.
+    return BringToFront(window) && WaitFor([=] {
+               Send(window, WM_NULL); // its own thread must have taken notice of either
+               SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+               return IsFrontMost(window);
+           });
+}
+
+void TasksScreen::Front() const
+{
+    ASSERT_TRUE(Raise(Main()));
+    Do(CommandRefresh);
+}
+
+void TasksScreen::FrontBefore(const std::vector<HWND>& windows) const
+{
+    std::vector<HWND> wanted = {Main()};
+    wanted.insert(wanted.end(), windows.begin(), windows.end());
+    // Wine's X driver may restack windows that have just come to the front.
+    ASSERT_TRUE(WaitFor([&] {
+        for (auto window = wanted.rbegin(); window != wanted.rend(); ++window) {
+            if (!Raise(*window))
+                return false;
+        }
+        return AreInOrder(wanted);
+    }));
+    Do(CommandRefresh);
+}
+
+void TasksScreen::FrontWithoutRefreshes() const
+{
+    WaitFor([] { return GetTickCount() - startedAt > AfterLateStarters; });
+    if (GetForegroundWindow() == Main()) {
+        ASSERT_TRUE(Raise(Today()));
+    }
+    Front();
+}
+
+void TasksScreen::Do(int command) const
+{
+    Send(Main(), WM_COMMAND, static_cast<WPARAM>(command));
+}
+
+void TasksScreen::Select(int row) const
+{
+    ASSERT_LT(row, ListCount(list));
+    PressKey(VK_HOME);
+    ASSERT_TRUE(WaitFor([&] { return ListMark(list) == 0; }));
+    PressKey(VK_DOWN, row);
+    ASSERT_TRUE(WaitFor([&] { return ListMark(list) == row; }));
+}
+
+std::wstring TasksScreen::Report() const
+{
+    program->Command(CommandInfo);
+    const HWND dialog = program->WaitForDialog();
+    const HWND edit = FindDescendant(dialog, L"Edit", 126);
+    WaitFor([&] { return !TextOf(edit).empty(); });
+    const std::wstring text = TextOf(edit);
+    EXPECT_TRUE(CloseDialog(dialog));
+    return text;
+}
+
+HWND TasksScreen::ReportedWindow(const std::wstring& report)
+{
+    const size_t label = report.find(HandleLabel);
+    if (label == std::wstring::npos)
+        return nullptr;
+    const size_t digits = label + wcslen(HandleLabel);
+    return reinterpret_cast<HWND>(static_cast<ULONG_PTR>(wcstoul(report.c_str() + digits, nullptr, 16)));
+}
+
+std::vector<HWND> TasksScreen::Rows() const
+{
+    std::vector<HWND> windows;
+    for (int row = 0; row < ListCount(list); row++) {
+        Select(row);
+        windows.push_back(SelectedTask());
+    }
+    return windows;
+}
+
+void TasksScreen::SelectTask(HWND window) const
+{
+    for (int row = 0; row < ListCount(list); row++) {
+        Select(row);
+        if (SelectedTask() == window)
+            return;
+    }
+    FAIL() << "no row of that window";
+}
+
+std::wstring TasksScreen::ReportOn(HWND task) const
+{
+    SelectTask(task);
+    return Report();
+}
+
+bool TasksScreen::CloseDialog(HWND dialog, int command)
+{
+    PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(command), 0);
+    return WaitFor([=] { return !IsWindow(dialog) && GetForegroundWindow() == Main(); });
+}
+
+HWND TasksScreen::WaitForNotice()
+{
+    return WaitFor([] { return program->Notice(); });
+}
+
+void TasksScreen::HideNotice()
+{
+    if (const HWND notice = program->Notice())
+        Send(notice, WM_LBUTTONDOWN);
+}

@@ -1,0 +1,74 @@
+// TasksScreen: the program on its page of running applications, used as a user does; the tests of that page
+// derive from it.
+#pragma once
+
+#include "tests/rig/Actor.h"
+#include "tests/rig/Program.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+inline constexpr int CommandPreviousPage = 32774;
+inline constexpr int CommandNextPage = 32775;
+inline constexpr int CommandWindowsList = 32792;
+inline constexpr int CommandRefresh = 32793;
+inline constexpr int CommandShowTasks = 32796;
+inline constexpr int CommandInfo = 32799;
+inline constexpr int CommandClose = 32800;
+inline constexpr int CommandSwitch = 32801;
+inline constexpr int CommandWindowInfo = 0x8022;
+inline constexpr int CommandCloseAll = 32816;
+
+class TasksScreen : public testing::Test
+{
+  protected:
+    // One program for all tests of a suite; a test that ends it gets the next one a new one.
+    static std::optional<rig::Program> program;
+    HWND list = nullptr;
+
+    static void TearDownTestSuite() { program.reset(); }
+    void SetUp() override;
+    void TearDown() override;
+
+    static HWND Main() { return program->MainWindow(); }
+    // The handheld's home screen, a task of its own.
+    static HWND Today();
+
+    // Brings a window to the front, before all others.
+    static bool Raise(HWND window);
+    // The program in front, with a fresh list.
+    void Front() const;
+    // The windows, in this order from the front, with the program before them.
+    void FrontBefore(const std::vector<HWND>& windows) const;
+    // No refresh comes by itself for some seconds: the one that follows the program's start is over, and the
+    // periodic one has just begun its interval.
+    void FrontWithoutRefreshes() const;
+
+    // Moves the selection by keys; the program is in front.
+    void Select(int row) const;
+    // Finds the row of a task and selects it.
+    void SelectTask(HWND window) const;
+    // The report on the selected task, after which the dialog is closed again.
+    std::wstring Report() const;
+    // The window that a report is about.
+    static HWND ReportedWindow(const std::wstring& report);
+    HWND SelectedTask() const { return ReportedWindow(Report()); }
+    // The windows of all rows from the top.
+    std::vector<HWND> Rows() const;
+    std::wstring ReportOn(HWND task) const;
+
+    // Gives a command and waits until it is carried out.
+    void Do(int command) const;
+    static bool CloseDialog(HWND dialog, int command = IDOK);
+    static HWND WaitForNotice();
+    static void HideNotice();
+
+  private:
+    static DWORD startedAt;
+    static bool Start();
+    static bool IsReady();
+};
+
+// What it takes to be a task of its own.
+rig::ActorWindowSpec Task(const std::wstring& title);

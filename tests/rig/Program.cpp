@@ -1,0 +1,114 @@
+// Program: Quorvane under test, as a process of its own with its window on the screen.
+#include "tests/rig/Program.h"
+
+#include "tests/rig/Desktop.h"
+#include "tests/rig/WaitFor.h"
+
+namespace rig {
+namespace {
+
+constexpr wchar_t PageClassPrefix[] = L"QuorvaneV";
+constexpr wchar_t NoticeClassPrefix[] = L"QuorvaneIW";
+constexpr wchar_t DialogClass[] = L"#32770";
+constexpr int LastPage = 4;
+constexpr int ListId = 110;
+constexpr std::chrono::milliseconds EndingTime{3000};
+
+} // namespace
+
+Program Program::Start(const std::wstring& arguments, const std::wstring& folder)
+{
+    Program program;
+    program.started = std::make_unique<ChildProcess>(folder + L"\\Quorvane.exe", arguments, L"C:\\");
+    program.process = program.started->Id();
+    return program;
+}
+
+Program Program::Running()
+{
+    Program program;
+    program.main = FindTopWindow({.className = MainWindowClass, .title = MainWindowTitle, .visible = false});
+    if (program.main)
+        program.process = ProcessOf(program.main);
+    return program;
+}
+
+Program::~Program()
+{
+    // Asked first, because an abrupt end leaves hot keys and settings as they are.
+    if (IsRunning() && main && started) {
+        PostMessageW(main, WM_CLOSE, 0, 0);
+        started->ExitCode(EndingTime);
+    }
+    // The window can outlive its process for a moment; the next program would take it for a running instance.
+    if (started && main) {
+        started.reset();
+        WaitFor([&] { return !IsWindow(main) || ProcessOf(main) != process; });
+    }
+}
+
+HWND Program::WaitForMainWindow()
+{
+    WaitFor([&] {
+        main = FindTopWindow({.className = MainWindowClass, .title = MainWindowTitle, .process = process});
+        return main || !IsRunning();
+    });
+    return main;
+}
+
+bool Program::IsRunning() const
+{
+    return started ? started->Running() : IsWindow(main) != FALSE;
+}
+
+std::optional<DWORD> Program::ExitCode(std::chrono::milliseconds timeout) const
+{
+    return started ? started->ExitCode(timeout) : std::nullopt;
+}
+
+void Program::Command(int id) const
+{
+    PostMessageW(main, WM_COMMAND, static_cast<WPARAM>(id), 0);
+}
+
+HWND Program::Page(int number) const
+{
+    return FindDescendant(main, PageClassPrefix + std::to_wstring(number));
+}
+
+HWND Program::List(int number) const
+{
+    return FindDescendant(Page(number), L"SysListView32", ListId);
+}
+
+int Program::VisiblePage() const
+{
+    for (int number = 1; number <= LastPage; number++) {
+        const HWND page = Page(number);
+        if (page && IsWindowVisible(page))
+            return number;
+    }
+    return 0;
+}
+
+bool Program::WaitForPage(int number) const
+{
+    return WaitFor([&] { return VisiblePage() == number; });
+}
+
+HWND Program::Dialog() const
+{
+    return FindTopWindow({.className = DialogClass, .process = process});
+}
+
+HWND Program::WaitForDialog() const
+{
+    return WaitFor([&] { return Dialog(); });
+}
+
+HWND Program::Notice() const
+{
+    return FindTopWindowByPrefix(NoticeClassPrefix, process);
+}
+
+} // namespace rig

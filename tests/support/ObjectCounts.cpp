@@ -1,0 +1,100 @@
+// What this process has created and not given back.
+#include "tests/support/ObjectCounts.h"
+
+#include "tests/support/TestHeap.h"
+
+#include <windows.h>
+
+#include <cstdint>
+#include <ostream>
+
+// The table of the process's GDI objects: the system shares it with every process, and Wine keeps it in the
+// same place. GetGuiResources, which would tell the number, is a stub in Wine 8.0.
+static const size_t gdiTableInPeb = 0xF8;
+static const size_t gdiEntryCount = 0x10000;
+
+struct GdiEntry
+{
+    uint64_t object;
+    uint32_t owner;
+    uint16_t unique;
+    uint8_t type; // 0: free
+    uint8_t flags;
+    uint64_t userPointer;
+};
+static_assert(sizeof(GdiEntry) == 24);
+
+static void CountGdiObjects(std::array<int, 256>& counts)
+{
+    const FARPROC ownPeb = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb");
+    const auto* peb = reinterpret_cast<const uint8_t*(WINAPI*)()>(reinterpret_cast<void*>(ownPeb))();
+    const auto* table = *reinterpret_cast<const GdiEntry* const*>(peb + gdiTableInPeb);
+    for (size_t i = 0; table && i < gdiEntryCount; i++) {
+        if (table[i].type != 0)
+            counts[table[i].type]++;
+    }
+}
+
+static BOOL CALLBACK CountChild(HWND, LPARAM count)
+{
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+static BOOL CALLBACK CountWindow(HWND window, LPARAM count)
+{
+    ++*reinterpret_cast<int*>(count);
+    EnumChildWindows(window, CountChild, count);
+    return TRUE;
+}
+
+static int CountMenus()
+{
+    int count = 0;
+    for (uintptr_t handle = 0x20; handle <= 0xFFF0; handle += 2) {
+        if (IsMenu(reinterpret_cast<HMENU>(handle)))
+            count++;
+    }
+    return count;
+}
+
+static size_t CountHeapBlocks()
+{
+    HANDLE heaps[64];
+    const DWORD count = GetProcessHeaps(64, heaps);
+    size_t blocks = 0;
+    for (DWORD i = 0; i < count && i < 64; i++) {
+        HeapLock(heaps[i]);
+        PROCESS_HEAP_ENTRY entry = {};
+        while (HeapWalk(heaps[i], &entry))
+            blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+        HeapUnlock(heaps[i]);
+    }
+    return blocks;
+}
+
+ObjectCounts ObjectCounts::Now()
+{
+    ObjectCounts counts;
+    counts.programBlocks = LiveBlocks();
+    counts.heapBlocks = CountHeapBlocks();
+    EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&counts.windows));
+    counts.menus = CountMenus();
+    CountGdiObjects(counts.gdiObjects);
+    return counts;
+}
+
+bool ObjectCounts::SameObjects(const ObjectCounts& other) const
+{
+    return gdiObjects == other.gdiObjects && windows == other.windows && menus == other.menus;
+}
+
+void PrintTo(const ObjectCounts& counts, std::ostream* out)
+{
+    *out << counts.windows << " windows, " << counts.menus << " menus, " << counts.programBlocks << " + "
+         << counts.heapBlocks << " blocks; GDI objects by type:";
+    for (size_t type = 0; type < counts.gdiObjects.size(); type++) {
+        if (counts.gdiObjects[type] != 0)
+            *out << ' ' << std::hex << type << std::dec << ':' << counts.gdiObjects[type];
+    }
+}

@@ -1,0 +1,142 @@
+// Heap walks by the tool-help substitute: scripted, of the own process and of another one.
+#include "platform/ce.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+// The sum of all blocks of all heaps; the number of heaps whose first block was refused.
+struct Walk
+{
+    unsigned long long sum = 0;
+    int heaps = 0;
+    int refused = 0;
+    bool taken = false;
+};
+
+Walk WalkProcess(DWORD process)
+{
+    Walk walk;
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, process);
+    walk.taken = snapshot != INVALID_HANDLE_VALUE;
+    if (!walk.taken)
+        return walk;
+    HEAPLIST32 list = {};
+    list.dwSize = sizeof list;
+    for (BOOL more = Heap32ListFirst(snapshot, &list); more; more = Heap32ListNext(snapshot, &list)) {
+        ++walk.heaps;
+        EXPECT_EQ(list.th32ProcessID, process);
+        HEAPENTRY32 entry = {};
+        entry.dwSize = sizeof entry;
+        BOOL block = Heap32First(snapshot, &entry, list.th32ProcessID, list.th32HeapID);
+        walk.refused += block ? 0 : 1;
+        for (; block; block = Heap32Next(snapshot, &entry))
+            walk.sum += entry.dwBlockSize;
+    }
+    EXPECT_TRUE(CloseToolhelp32Snapshot(snapshot));
+    return walk;
+}
+
+// A program that waits for its input and is ended with the object.
+class Child
+{
+  public:
+    explicit Child(const wchar_t* program)
+    {
+        std::wstring commandLine = program;
+        STARTUPINFOW startup = {};
+        startup.cb = sizeof startup;
+        startup.dwFlags = STARTF_USESTDHANDLES; // none: it must not hold this process's output open
+        EXPECT_TRUE(CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
+                                   nullptr, nullptr, &startup, &process));
+    }
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+    ~Child()
+    {
+        End();
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    }
+    DWORD Id() const { return process.dwProcessId; }
+    void End()
+    {
+        TerminateProcess(process.hProcess, 0);
+        WaitForSingleObject(process.hProcess, 5000);
+    }
+
+  private:
+    PROCESS_INFORMATION process = {};
+};
+
+} // namespace
+
+// The profile is read once in a process, so one is made before the first walk.
+class PlatformHeapsTest : public testing::Test
+{
+  protected:
+    static void SetUpTestSuite()
+    {
+        static const TempFolder folder;
+        const char text[] = "[heap]\ncmd.exe = 1000, 24 | | 4294967295\n";
+        const std::vector<unsigned char> bytes(text, text + sizeof text - 1);
+        SetEnvironmentVariableW(L"HANDHELD_PROFILE", folder.WriteFile(L"heaps.ini", bytes).c_str());
+    }
+};
+
+TEST_F(PlatformHeapsTest, AScriptedProcessHasTheBlocksOfItsScript)
+{
+    if (testing::UnitTest::GetInstance()->test_suite_to_run_count() > 1)
+        GTEST_SKIP() << "another suite may have read the profile already; run this one alone";
+    const Child child(L"C:\\windows\\system32\\cmd.exe");
+    const Walk walk = WalkProcess(child.Id());
+    EXPECT_TRUE(walk.taken);
+    EXPECT_EQ(walk.heaps, 3);
+    EXPECT_EQ(walk.refused, 1);
+    EXPECT_EQ(walk.sum, 1024ull + 4294967295ull);
+}
+
+TEST_F(PlatformHeapsTest, TheOwnHeapsGrowByWhatIsAllocated)
+{
+    constexpr size_t size = 300000;
+    const Walk before = WalkProcess(GetCurrentProcessId());
+    void* block = HeapAlloc(GetProcessHeap(), 0, size);
+    ASSERT_NE(block, nullptr);
+    const Walk during = WalkProcess(GetCurrentProcessId());
+    HeapFree(GetProcessHeap(), 0, block);
+    EXPECT_TRUE(before.taken);
+    EXPECT_GE(before.heaps, 1);
+    EXPECT_GE(during.sum, size);
+}
+
+TEST_F(PlatformHeapsTest, AnotherProcessIsOneBlock)
+{
+    Child child(L"C:\\windows\\system32\\winver.exe");
+    const Walk walk = WalkProcess(child.Id());
+    EXPECT_TRUE(walk.taken);
+    EXPECT_EQ(walk.heaps, 1);
+    EXPECT_EQ(walk.refused, 0);
+}
+
+TEST_F(PlatformHeapsTest, AProcessThatHasGoneHasNoSnapshot)
+{
+    EXPECT_FALSE(WalkProcess(0x7FFFFFF0).taken);
+}
+
+TEST_F(PlatformHeapsTest, ARecordWithoutItsSizeOrAnUnknownHeapIsRefused)
+{
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, GetCurrentProcessId());
+    ASSERT_NE(snapshot, INVALID_HANDLE_VALUE);
+    HEAPLIST32 list = {};
+    EXPECT_FALSE(Heap32ListFirst(snapshot, &list));
+    HEAPENTRY32 entry = {};
+    EXPECT_FALSE(Heap32First(snapshot, &entry, GetCurrentProcessId(), 1));
+    entry.dwSize = sizeof entry;
+    EXPECT_FALSE(Heap32First(snapshot, &entry, GetCurrentProcessId(), 0));
+    EXPECT_FALSE(Heap32First(snapshot, &entry, GetCurrentProcessId(), 1000));
+    EXPECT_FALSE(Heap32First(snapshot, &entry, GetCurrentProcessId() + 4, 1));
+    EXPECT_TRUE(CloseToolhelp32Snapshot(snapshot));
+}

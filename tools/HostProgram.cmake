@@ -1,0 +1,48 @@
+# Programs that run on the building machine, during the build or in its tests. The project's own compiler is a cross
+# compiler, so these are compiled by explicit commands.
+
+find_program(QV_HOST_CXX NAMES c++ g++ clang++ DOC "C++ compiler for programs that run on the building machine")
+if(NOT QV_HOST_CXX)
+    message(FATAL_ERROR "No C++ compiler for the building machine was found (Debian: g++).")
+endif()
+
+set(QV_HOST_CXX_FLAGS -std=c++20 -O2 -g -Wall -Wextra -Wshadow -Wconversion -Wcast-qual -Wnon-virtual-dtor -Werror)
+set(QV_HOST_LINK_FLAGS "")
+if(QV_CHECKED)
+    # Hostile inputs have to be refused without a single bad access.
+    list(APPEND QV_HOST_CXX_FLAGS -fsanitize=address,undefined -fno-sanitize-recover=all)
+    list(APPEND QV_HOST_LINK_FLAGS -fsanitize=address,undefined)
+endif()
+
+# qv_host_program(<name> <path-variable> SOURCES ... [DEFINITIONS ...] [LIBRARIES ...]): the target <name> builds the program; its path is
+# stored in <path-variable>. Only what has changed is compiled again, headers included.
+function(qv_host_program name path)
+    cmake_parse_arguments(PARSE_ARGV 2 ARG "" "" "SOURCES;DEFINITIONS;LIBRARIES")
+    list(TRANSFORM ARG_DEFINITIONS PREPEND -D)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${name}.dir)
+    file(MAKE_DIRECTORY ${folder})
+    set(objects "")
+    foreach(source IN LISTS ARG_SOURCES)
+        get_filename_component(source ${source} ABSOLUTE)
+        get_filename_component(stem ${source} NAME_WE)
+        set(object ${folder}/${stem}.o)
+        add_custom_command(
+            OUTPUT ${object}
+            COMMAND ${QV_HOST_CXX} ${QV_HOST_CXX_FLAGS} ${ARG_DEFINITIONS} -I${PROJECT_SOURCE_DIR}
+                -MD -MF ${object}.d -c ${source} -o ${object}
+            DEPENDS ${source}
+            DEPFILE ${object}.d
+            COMMENT "Host compile of ${name}: ${stem}.cpp"
+            VERBATIM)
+        list(APPEND objects ${object})
+    endforeach()
+    set(program ${folder}/${name})
+    add_custom_command(
+        OUTPUT ${program}
+        COMMAND ${QV_HOST_CXX} ${QV_HOST_LINK_FLAGS} ${objects} -o ${program} ${ARG_LIBRARIES}
+        DEPENDS ${objects}
+        COMMENT "Host program ${name}"
+        VERBATIM)
+    add_custom_target(${name} ALL DEPENDS ${program})
+    set(${path} ${program} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,223 @@
+// Tour: goes through the program's states as a user would and keeps a picture of each.
+#include "tools/tour/Tour.h"
+
+#include "resources/ids.h"
+#include "tests/rig/Controls.h"
+#include "tests/rig/Desktop.h"
+#include "tests/rig/Input.h"
+#include "tests/rig/Picture.h"
+#include "tests/rig/WaitFor.h"
+
+using namespace rig;
+
+namespace {
+
+constexpr int TasksPage = 1;
+constexpr int SysInfoPage = 2;
+constexpr int LauncherPage = 3;
+constexpr int ProcsPage = 4;
+// A screen on which nothing has been drawn, or text alone without icons and bands, has fewer.
+constexpr int FewestColours = 8;
+
+void Require(bool reached, const std::string& complaint)
+{
+    if (!reached)
+        throw TourError(complaint);
+}
+
+bool HasReport(HWND dialog)
+{
+    const HWND text = GetDlgItem(dialog, IDC_INFORMATION_TEXT);
+    return text && !TextOf(text).empty();
+}
+
+bool HasWindowTree(HWND dialog)
+{
+    const HWND tree = GetDlgItem(dialog, IDC_WINDOWS_TREE);
+    return tree && TreeItems(tree).size() > 1;
+}
+
+// Main windows that a user can go to; the home screen is one, with a title or without.
+int CountOpenPrograms()
+{
+    int count = 0;
+    for (HWND window : TopWindows()) {
+        const LONG exStyle = GetWindowLongW(window, GWL_EXSTYLE);
+        const bool named = GetWindowTextLengthW(window) > 0 || ClassOf(window) == L"DesktopExplorerWindow";
+        if (IsWindowVisible(window) && IsWindowEnabled(window) && !GetWindow(window, GW_OWNER) && named &&
+            !(exStyle & (WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE)))
+            ++count;
+    }
+    return count;
+}
+
+// Below the top bar, and as large as the screen allows when the window can be sized: Wine's programs do not
+// know that they are on a handheld.
+void PlaceAsOnDevice(HWND window)
+{
+    RECT area = {};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    const bool sizable = (GetWindowLongW(window, GWL_STYLE) & WS_THICKFRAME) != 0;
+    SetWindowPos(window, nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE | (sizable ? 0 : SWP_NOSIZE));
+}
+
+bool IsThere(HWND)
+{
+    return true;
+}
+
+// The top bar looks at the front window a few times a second; its own text is the title that it shows.
+bool TopBarIsUpToDate()
+{
+    HWND window = GetForegroundWindow();
+    std::wstring title = TextOf(window);
+    while (title.empty() && (window = GetWindow(window, GW_OWNER)) != nullptr)
+        title = TextOf(window);
+    return TextOf(FindWindowW(L"Shell_TrayWnd", nullptr)) == title;
+}
+
+} // namespace
+
+Tour::Tour(const std::wstring& pictures) : folder(pictures), program(Program::Start()) {}
+
+void Tour::Run()
+{
+    Require(program.WaitForMainWindow() != nullptr, "Quorvane did not show its window");
+    Require(WaitFor([&] { return GetForegroundWindow() == program.MainWindow(); }),
+            "Quorvane did not come to the front");
+    ShowPages();
+    ShowMenus();
+    ShowReports();
+    ShowRefusedClose();
+    program.Command(CMD_EXIT);
+    Require(program.ExitCode(Patience) == 0u,
+            "Quorvane did not end by its Exit command with the exit code 0");
+}
+
+void Tour::ShowPages()
+{
+    Require(WaitFor([&] { return program.VisiblePage() == TasksPage; }),
+            "the first page is not Running apps");
+    // The page may have been filled before the program's own window was there.
+    const bool complete = WaitFor([&] {
+        Send(program.MainWindow(), WM_COMMAND, CMD_REFRESH);
+        return ListCount(program.List(TasksPage)) == CountOpenPrograms();
+    });
+    Require(complete, "Running apps does not list every open program");
+    Keep("running");
+    GoToPage(SysInfoPage, CMD_SHOW_SYSINFO);
+    Keep("sysinfo");
+    GoToPage(LauncherPage, CMD_SHOW_START);
+    Keep("start");
+    GoToPage(ProcsPage, CMD_SHOW_PROCS);
+    Keep("processes");
+    GoToPage(TasksPage, CMD_SHOW_TASKS);
+}
+
+void Tour::ShowMenus()
+{
+    PressKey(VK_F2);
+    Require(WaitFor([] { return OpenMenu() != nullptr; }), "the soft key Menu opens no menu");
+    Keep("running-menu");
+    CloseMenus();
+
+    const RECT page = ClientRectOnScreen(program.Page(TasksPage));
+    const RECT list = ScreenRectOf(program.List(TasksPage));
+    Require(list.top > page.top, "the page has no band above its list");
+    Tap({(page.left + page.right) / 2, (page.top + list.top) / 2});
+    Require(WaitFor([] { return OpenMenu() != nullptr; }), "a tap on the page's band opens no menu");
+    Keep("header-popup");
+    CloseMenus();
+}
+
+void Tour::ShowReports()
+{
+    SelectRow(TasksPage, 1);
+    ShowDialog(CMD_APPLICATION_INFO, "window-report", HasReport);
+    SelectRow(TasksPage, 1);
+    ShowDialog(CMD_WINDOWS_LIST, "windows-list", HasWindowTree);
+    ShowDialog(CMD_ABOUT, "about", IsThere);
+}
+
+void Tour::ShowRefusedClose()
+{
+    // The home screen lies behind everything else, so it is the last row.
+    SelectRow(TasksPage, ListCount(program.List(TasksPage)) - 1);
+    program.Command(CMD_CLOSE_APPLICATION);
+    Require(WaitFor([&] { return program.Notice() != nullptr; }),
+            "closing the home screen is not refused by a notice");
+    Keep("refused-close");
+    Require(WaitFor([&] { return program.Notice() == nullptr; }), "the notice does not go away");
+}
+
+void Tour::GoToPage(int number, int command)
+{
+    program.Command(command);
+    Require(program.WaitForPage(number), "page " + std::to_string(number) + " is not shown");
+}
+
+void Tour::SelectRow(int page, int row)
+{
+    const HWND list = program.List(page);
+    const std::string name = "row " + std::to_string(row) + " of page " + std::to_string(page);
+    Require(row >= 0 && row < ListCount(list), name + " is not there");
+    PressKey(VK_HOME);
+    Require(WaitFor([=] { return ListMark(list) == 0; }), "the key Home does not select the first row");
+    for (int next = 1; next <= row; next++) {
+        PressKey(VK_DOWN);
+        Require(WaitFor([=] { return ListMark(list) == next; }), "the key Down does not get to " + name);
+    }
+}
+
+void Tour::ShowDialog(int command, const char* picture, const std::function<bool(HWND)>& filled)
+{
+    program.Command(command);
+    const HWND dialog = program.WaitForDialog();
+    Require(dialog != nullptr, std::string("no dialog opens for ") + picture);
+    Require(WaitFor([&] { return filled(dialog); }), std::string("the dialog stays empty for ") + picture);
+    Keep(picture);
+    PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+    Require(WaitFor([&] { return program.Dialog() == nullptr; }),
+            std::string("the dialog stays open: ") + picture);
+}
+
+void Tour::CloseMenus()
+{
+    const bool closed = WaitFor([] {
+        if (!OpenMenu())
+            return true;
+        PressKey(VK_ESCAPE);
+        Sleep(100);
+        return OpenMenu() == nullptr;
+    });
+    Require(closed, "the key Escape does not close the menu");
+}
+
+void Tour::Keep(const char* picture)
+{
+    const std::string name(picture);
+    Require(WaitFor(TopBarIsUpToDate), "the top bar shows another title for " + name);
+    const Picture screen = Picture::OfSettledScreen();
+    Require(screen.Colours() >= FewestColours, "the screen is empty for " + name);
+    Require(screen.SavePng(folder + L"\\" + std::wstring(name.begin(), name.end()) + L".png"),
+            "cannot write the picture " + name + ".png");
+}
+
+void OpenPrograms(const std::vector<std::wstring>& names)
+{
+    for (const std::wstring& name : names) {
+        const std::string complaint = std::string(name.begin(), name.end()) + " shows no window";
+        ChildProcess process(name + L".exe", L"", L"C:\\");
+        Require(process.Id() != 0, complaint);
+        const DWORD id = process.Id();
+        Require(WaitFor([=] { return ProcessOf(GetForegroundWindow()) == id; }), complaint);
+        PlaceAsOnDevice(GetForegroundWindow());
+        // Wine's X driver lifts a window's picture above all others whenever its program moves the focus
+        // inside it, even when another program has the front by then. So it must have come to rest before the
+        // next one starts.
+        WaitForInputIdle(process.Handle(), static_cast<DWORD>(Patience.count()));
+        Picture::OfSettledScreen();
+        process.Release();
+    }
+}

@@ -1,0 +1,46 @@
+// Tour: goes through the program's states as a user would and keeps a picture of each.
+#pragma once
+
+#include "tests/rig/Program.h"
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+// A state that was not reached; what() says which, in a sentence.
+class TourError : public std::runtime_error
+{
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+class Tour
+{
+    std::wstring folder; // of the pictures, without a backslash at its end
+    rig::Program program;
+
+  public:
+    explicit Tour(const std::wstring& pictures);
+
+    // Every state in turn; throws TourError at the first that is not reached.
+    void Run();
+
+  private:
+    void ShowPages();
+    void ShowMenus();
+    void ShowReports();
+    void ShowRefusedClose();
+
+    void GoToPage(int number, int command);
+    // Moves the selection of a page's list by keys until it is on this row.
+    void SelectRow(int page, int row);
+    // Opens a dialog by a command, waits until it is filled, keeps a picture, and closes it.
+    void ShowDialog(int command, const char* picture, const std::function<bool(HWND)>& filled);
+    void CloseMenus();
+    void Keep(const char* picture);
+};
+
+// Starts Wine's own programs of these names one after the other, each behind the next; throws TourError when
+// one shows no window. They stay.
+void OpenPrograms(const std::vector<std::wstring>& names);

@@ -1,0 +1,84 @@
+// zrspack: packs the program's pictures into the container it reads them from.
+#include "tools/zrspack/ByteView.h"
+#include "tools/zrspack/CommandLine.h"
+#include "tools/zrspack/ContainerListing.h"
+#include "tools/zrspack/ContainerWriter.h"
+#include "tools/zrspack/InputFile.h"
+#include "tools/zrspack/OutputFile.h"
+#include "tools/zrspack/PictureCheck.h"
+#include "tools/zrspack/Refusal.h"
+
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+static void Print(const std::string& text)
+{
+    if (std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0)
+        throw Refusal("the standard output cannot be written");
+}
+
+static void Pack(const CommandLine& call)
+{
+    ContainerWriter container;
+    for (const PackEntry& entry : call.entries) {
+        std::error_code ignored;
+        if (std::filesystem::equivalent(entry.file, call.file, ignored))
+            throw Refusal::WithFile(entry.file, "is also the output");
+        std::vector<std::uint8_t> bytes = ReadInputFile(entry.file);
+        try {
+            CheckPicture(ByteView(bytes));
+            container.Add(entry.id, std::move(bytes));
+        } catch (const Refusal& refusal) {
+            throw Refusal::WithFile(entry.file, refusal.what());
+        }
+    }
+    // Nothing is written before every input has been found good.
+    const std::vector<std::uint8_t> bytes = container.Build();
+    OutputFile output(call.file);
+    output.Write(bytes);
+    output.Commit();
+}
+
+static void List(const std::string& file)
+{
+    const std::vector<std::uint8_t> bytes = ReadInputFile(file);
+    std::string text;
+    try {
+        text = ListContainer(ByteView(bytes));
+    } catch (const Refusal& refusal) {
+        throw Refusal::WithFile(file, refusal.what());
+    }
+    Print(text);
+}
+
+static void Run(const CommandLine& call)
+{
+    switch (call.action) {
+    case CommandLine::Action::Help:
+        Print(CommandLine::Help());
+        break;
+    case CommandLine::Action::List:
+        List(call.file);
+        break;
+    case CommandLine::Action::Pack:
+        Pack(call);
+        break;
+    }
+}
+
+int main(int argc, char** argv)
+{
+    try {
+        Run(CommandLine::Parse(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc)));
+        return 0;
+    } catch (const UsageError& error) {
+        std::fprintf(stderr, "zrspack: %s (see zrspack --help)\n", error.what());
+        return 2;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "zrspack: %s\n", error.what());
+        return 1;
+    }
+}

@@ -9,38 +9,3 @@ extern "C" void ProgramStart()
     const int result = ProgramMain(instance, nullptr, GetCommandLineW(), SW_SHOWNORMAL);
     TerminateProcess(GetCurrentProcess(), static_cast<UINT>(result));
 }
-
-extern "C" void __cxa_pure_virtual()
-{
-    TerminateProcess(GetCurrentProcess(), static_cast<UINT>(-1));
-}
-
-void* operator new(size_t size)
-{
-    return malloc(size);
-}
-
-void* operator new[](size_t size)
-{
-    return malloc(size);
-}
-
-void operator delete(void* block) noexcept
-{
-    free(block);
-}
-
-void operator delete[](void* block) noexcept
-{
-    free(block);
-}
-
-void operator delete(void* block, size_t) noexcept
-{
-    free(block);
-}
-
-void operator delete[](void* block, size_t) noexcept
-{
-    free(block);
-}

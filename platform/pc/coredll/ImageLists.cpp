@@ -1,4 +1,4 @@
-// Image lists of the commctrl substitute.
+// Image lists.
 #include <windows.h>
 
 #include <commctrl.h>

@@ -1,0 +1,60 @@
+// aygshell.dll: soft-key menu bars, full-screen dialogs, activation, tap-and-hold.
+#pragma once
+
+#include "platform/ce/Windows.h"
+
+struct SHMENUBARINFO
+{
+    DWORD cbSize;
+    HWND hwndParent;
+    DWORD dwFlags;
+    UINT nToolBarId; // RCDATA resource: menu id, count, then 7 words a button; 0 for an empty bar
+    HINSTANCE hInstRes;
+    int nBmpId;
+    int cBmpImages;
+    HWND hwndMB; // out
+    COLORREF clrBk;
+};
+
+struct SHACTIVATEINFO
+{
+    DWORD cbSize;
+    HWND hwndLastFocus;
+    UINT fSipUp : 1;
+    UINT fSipOnDeactivation : 1;
+    UINT fActive : 1;
+    UINT fReserved : 29;
+};
+
+struct SHINITDLGINFO
+{
+    DWORD dwMask; // SHIDIM_FLAGS
+    HWND hDlg;
+    DWORD dwFlags; // SHIDIF_
+};
+
+struct SHRGINFO
+{
+    DWORD cbSize;
+    HWND hwndClient;
+    POINT ptDown; // in the client area
+    DWORD dwFlags;
+};
+
+#define SHIDIM_FLAGS 0x0001
+#define SHIDIF_DONEBUTTON 0x0001
+#define SHIDIF_SIZEDLGFULLSCREEN 0x0004
+#define SHIDIF_SIPDOWN 0x0008
+#define SHIDIF_EMPTYMENU 0x0020
+
+extern "C" {
+// Ordinal 9: called once before the first window; takes nothing, its result is not used.
+__declspec(dllimport) BOOL WINAPI AygshellStartup();
+__declspec(dllimport) BOOL WINAPI SHCreateMenuBar(SHMENUBARINFO* info);
+__declspec(dllimport) BOOL WINAPI
+    SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info, DWORD flags);
+__declspec(dllimport) BOOL WINAPI
+    SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info);
+__declspec(dllimport) BOOL WINAPI SHInitDialog(SHINITDLGINFO* info);
+__declspec(dllimport) void WINAPI SHSendBackToFocusWindow(UINT message, WPARAM wParam, LPARAM lParam);
+}

@@ -1,0 +1,22 @@
+// LateFunction: a function that not every device's library exports, looked up when it is first called.
+#include "platform/device/LateFunction.h"
+
+// The device's function takes a wide name, the desktop's, which <windows.h> declares, a narrow one.
+extern "C" FARPROC WINAPI GetProcAddressW(HMODULE library, const wchar_t* name);
+
+void LateFunction::LookUp()
+{
+    // Before the message is shown: its loop can bring the next call.
+    if (lookedUp) {
+        return;
+    }
+    lookedUp = true;
+    // Never freed: a library that a process has called stays with it.
+    HMODULE module = LoadLibraryW(library);
+    if (module) {
+        address = reinterpret_cast<void*>(GetProcAddressW(module, name ? name : MAKEINTRESOURCEW(number)));
+    }
+    if (!address && loss) {
+        MessageBoxW(nullptr, loss, L"Quorvane", MB_OK | MB_ICONWARNING);
+    }
+}

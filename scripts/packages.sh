@@ -11,7 +11,13 @@ QV_RUN_PACKAGES=(
     libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1
     util-linux
 )
-QV_TEST_PACKAGES=(clang-format clang-tidy)
+# mingw-w64-common has the Windows headers that the device's executable is compiled with too.
+QV_DEVICE_PACKAGES=(
+    cmake ninja-build gcc libc6-dev g++ binutils-mingw-w64-x86-64 mingw-w64-common gcc-arm-none-eabi
+    g++-mingw-w64-x86-64-posix librsvg2-bin imagemagick
+)
+# clang-tools brings clang-query, llvm its llvm-readobj.
+QV_TEST_PACKAGES=(clang-format clang-tidy clang-tools llvm file)
 
 # package_missing <name>: not installed.
 package_missing()

@@ -1,0 +1,12 @@
+# Builds TARGET in BUILD. With a MESSAGE (a regular expression) the build has to fail and say it.
+cmake_minimum_required(VERSION 3.25)
+execute_process(COMMAND ${NINJA} -C ${BUILD} ${TARGET} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+if(MESSAGE STREQUAL "")
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "the build failed: ${output}")
+    endif()
+elseif(result EQUAL 0)
+    message(FATAL_ERROR "the build succeeded")
+elseif(NOT output MATCHES "${MESSAGE}")
+    message(FATAL_ERROR "the build's output does not match \"${MESSAGE}\": ${output}")
+endif()

@@ -18,6 +18,8 @@ QV_DEVICE_PACKAGES=(
 )
 # clang-tools brings clang-query, llvm its llvm-readobj.
 QV_TEST_PACKAGES=(clang-format clang-tidy clang-tools llvm file)
+# What the packages are made, signed and checked with.
+QV_PACKAGE_PACKAGES=(gcab cabextract osslsigncode openssl zip unzip)
 
 # package_missing <name>: not installed.
 package_missing()

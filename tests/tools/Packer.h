@@ -1,16 +1,8 @@
 // Runs the packer as the build does and gives what came of it.
 #pragma once
 
-#include <cstddef>
-#include <string>
-#include <vector>
+#include "tests/tools/Program.h"
 
-struct PackerResult
-{
-    int exitCode; // -1: it did not end by itself
-    std::string output;
-    std::string errors;
-};
+using PackerResult = ProgramResult;
 
-// largestFile: the size in bytes at which writing a file fails, as on a full disk; 0 for no limit.
 PackerResult RunPacker(const std::vector<std::string>& arguments, std::size_t largestFile = 0);

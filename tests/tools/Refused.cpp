@@ -5,13 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 void ExpectOneLine(const std::string& message)
 {
-    EXPECT_EQ(message.rfind("zrspack: ", 0), 0u) << message;
-    EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 1) << message;
-    EXPECT_TRUE(!message.empty() && message.back() == '\n') << message;
+    ExpectOneLine(message, "zrspack");
 }
 
 void ExpectRefused(const Bytes& content, const std::string& words)

@@ -10,5 +10,5 @@
 void ExpectRefused(const Bytes& content, const std::string& words);
 // The same content must be packed.
 void ExpectPacked(const Bytes& content);
-// A message is one line and begins with the program's name.
+// A message of the packer is one line and begins with its name.
 void ExpectOneLine(const std::string& message);

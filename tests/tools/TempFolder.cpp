@@ -9,7 +9,7 @@
 
 TempFolder::TempFolder()
 {
-    std::string pattern = (std::filesystem::temp_directory_path() / "zrspack-test-XXXXXX").string();
+    std::string pattern = (std::filesystem::temp_directory_path() / "tools-test-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr)
         throw std::runtime_error("no temporary folder");
     folder = pattern;

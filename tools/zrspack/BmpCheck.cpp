@@ -1,7 +1,7 @@
 // Checks the structure of a BMP file.
 #include "tools/zrspack/BmpCheck.h"
 
-#include "tools/zrspack/Refusal.h"
+#include "tools/common/Refusal.h"
 
 #include <array>
 #include <string>

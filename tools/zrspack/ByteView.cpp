@@ -1,7 +1,7 @@
 // A bounds-checked look at the bytes of a file.
 #include "tools/zrspack/ByteView.h"
 
-#include "tools/zrspack/Refusal.h"
+#include "tools/common/Refusal.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // The packer's command line.
 #include "tools/zrspack/CommandLine.h"
 
-#include "tools/zrspack/Refusal.h"
+#include "tools/common/Refusal.h"
 
 #include <charconv>
 

@@ -1,9 +1,9 @@
 // Describes a picture container as text.
 #include "tools/zrspack/ContainerListing.h"
 
+#include "tools/common/Refusal.h"
 #include "tools/zrspack/ContainerFormat.h"
 #include "tools/zrspack/PictureCheck.h"
-#include "tools/zrspack/Refusal.h"
 
 #include <cstdio>
 

@@ -1,8 +1,8 @@
 // Builds the bytes of a picture container: header, directory, data.
 #include "tools/zrspack/ContainerWriter.h"
 
+#include "tools/common/Refusal.h"
 #include "tools/zrspack/ContainerFormat.h"
-#include "tools/zrspack/Refusal.h"
 
 #include <string>
 #include <utility>

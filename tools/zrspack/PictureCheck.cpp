@@ -1,9 +1,9 @@
 // Tells the picture formats apart by their signatures, never by the file's name.
 #include "tools/zrspack/PictureCheck.h"
 
+#include "tools/common/Refusal.h"
 #include "tools/zrspack/BmpCheck.h"
 #include "tools/zrspack/PngCheck.h"
-#include "tools/zrspack/Refusal.h"
 
 #include <string>
 

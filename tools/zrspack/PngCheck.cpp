@@ -1,8 +1,8 @@
 // Checks the structure of a PNG file chunk by chunk.
 #include "tools/zrspack/PngCheck.h"
 
+#include "tools/common/Refusal.h"
 #include "tools/zrspack/Crc32.h"
-#include "tools/zrspack/Refusal.h"
 
 #include <algorithm>
 #include <array>

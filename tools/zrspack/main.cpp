@@ -1,12 +1,12 @@
 // zrspack: packs the program's pictures into the container it reads them from.
+#include "tools/common/InputFile.h"
+#include "tools/common/OutputFile.h"
+#include "tools/common/Refusal.h"
 #include "tools/zrspack/ByteView.h"
 #include "tools/zrspack/CommandLine.h"
 #include "tools/zrspack/ContainerListing.h"
 #include "tools/zrspack/ContainerWriter.h"
-#include "tools/zrspack/InputFile.h"
-#include "tools/zrspack/OutputFile.h"
 #include "tools/zrspack/PictureCheck.h"
-#include "tools/zrspack/Refusal.h"
 
 #include <cstdio>
 #include <exception>

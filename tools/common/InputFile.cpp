@@ -1,7 +1,7 @@
 // Reads an input file whole.
-#include "tools/zrspack/InputFile.h"
+#include "tools/common/InputFile.h"
 
-#include "tools/zrspack/Refusal.h"
+#include "tools/common/Refusal.h"
 
 #include <cerrno>
 #include <cstdio>

@@ -1,7 +1,7 @@
 // Writes the output under a temporary name and gives it its own name when it is complete.
-#include "tools/zrspack/OutputFile.h"
+#include "tools/common/OutputFile.h"
 
-#include "tools/zrspack/Refusal.h"
+#include "tools/common/Refusal.h"
 
 #include <cerrno>
 #include <filesystem>

@@ -1,5 +1,5 @@
 // Messages about refused inputs.
-#include "tools/zrspack/Refusal.h"
+#include "tools/common/Refusal.h"
 
 Refusal Refusal::WithFile(const std::string& file, const std::string& reason)
 {

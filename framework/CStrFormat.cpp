@@ -52,7 +52,7 @@ void CStr::LoadStringW(uint32_t id)
     wchar_t scratch[scratchSize];
     wchar_t* const target = fixedSize ? buffer : scratch;
     const uint32_t limit = fixedSize ? fixedSize : scratchSize; // terminator included
-    const int length = ::LoadStringW(nullptr, id, target, static_cast<int>(limit));
+    const int length = ::LoadStringW(GetModuleHandleW(nullptr), id, target, static_cast<int>(limit));
     Assert(length > 0, ErrorNotFound, L"CStr::LoadStringW", __LINE__);
     if (!fixedSize) {
         *this = scratch;

@@ -1,5 +1,7 @@
 # EXECUTABLE has the form that the device's loader takes, and its size stays within the budget.
 cmake_minimum_required(VERSION 3.25)
+find_program(FILE file NO_CACHE REQUIRED)
+find_program(READOBJ NAMES llvm-readobj llvm-readobj-14 NO_CACHE REQUIRED)
 execute_process(COMMAND ${FILE} -b ${EXECUTABLE} OUTPUT_VARIABLE kind COMMAND_ERROR_IS_FATAL ANY)
 if(NOT kind MATCHES "^PE32 executable \\(Windows CE\\) ARM")
     message(FATAL_ERROR "file calls it: ${kind}")

@@ -1,5 +1,6 @@
 # Every import of EXECUTABLE is in the lists of imports in LISTS, by the name or the number that it has there.
 cmake_minimum_required(VERSION 3.25)
+find_program(READOBJ NAMES llvm-readobj llvm-readobj-14 NO_CACHE REQUIRED)
 execute_process(COMMAND ${READOBJ} --coff-imports ${EXECUTABLE} OUTPUT_VARIABLE dump COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "Name: [^\n]+|Symbol: [^\n]+" lines "${dump}")
 set(count 0)

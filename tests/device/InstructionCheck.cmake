@@ -1,6 +1,7 @@
 # CODE, or SOURCE assembled, has no instruction that some of the devices' processors lack, none that needs a stack aligned
 # to 8 bytes, and no return that cannot lead to Thumb code. FOUND: what there must be instead.
 cmake_minimum_required(VERSION 3.25)
+find_program(OBJDUMP arm-none-eabi-objdump NO_CACHE REQUIRED)
 if(SOURCE)
     set(CODE ${OUTPUT})
     execute_process(COMMAND ${ASSEMBLER} -march=armv5te -c ${SOURCE} -o ${CODE} COMMAND_ERROR_IS_FATAL ANY)

@@ -1,5 +1,6 @@
 # EXECUTABLE has the resources that the program asks for, all within their section.
 cmake_minimum_required(VERSION 3.25)
+find_program(READOBJ NAMES llvm-readobj llvm-readobj-14 NO_CACHE REQUIRED)
 execute_process(COMMAND ${READOBJ} --sections --coff-resources ${EXECUTABLE}
     OUTPUT_VARIABLE dump COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "\n +Type: [A-Z_]+ |\n +Name: \\(ID [0-9]+\\)" lines "${dump}")

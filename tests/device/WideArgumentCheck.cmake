@@ -1,6 +1,7 @@
 # No call of the program passes what takes two words, or a structure, through "...": the compiler aligns it to 8 bytes,
 # which the device's libraries do not expect. With a SOURCE, that file must be found to have MATCHES such calls.
 cmake_minimum_required(VERSION 3.25)
+find_program(CLANG_QUERY NAMES clang-query clang-query-14 NO_CACHE REQUIRED)
 file(READ ${COMMANDS} database)
 string(JSON count LENGTH "${database}")
 math(EXPR last "${count} - 1")
@@ -36,7 +37,7 @@ execute_process(
 if(NOT result EQUAL 0 OR errors MATCHES "error:" OR output MATCHES "error:")
     message(FATAL_ERROR "clang-query: ${errors}${output}")
 endif()
-if(NOT output MATCHES "\n${MATCHES} match(es)?\\.")
+if(NOT output MATCHES "(^|\n)${MATCHES} match(es)?\\.")
     message(FATAL_ERROR "not ${MATCHES} but these calls pass two words or a structure through \"...\": ${output}")
 endif()
 

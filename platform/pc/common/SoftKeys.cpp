@@ -36,46 +36,6 @@ LRESULT CALLBACK FilterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-struct BoxButtons
-{
-    HWND first = nullptr;
-    HWND last = nullptr;
-    int count = 0;
-
-    explicit BoxButtons(HWND box) { EnumChildWindows(box, Add, reinterpret_cast<LPARAM>(this)); }
-
-    static BOOL CALLBACK Add(HWND child, LPARAM parameter)
-    {
-        auto& buttons = *reinterpret_cast<BoxButtons*>(parameter);
-        wchar_t name[16];
-        // The box has all the buttons there are and hides those it does not need.
-        if (GetClassNameW(child, name, 16) == 0 || lstrcmpiW(name, L"Button") != 0 || !IsWindowVisible(child))
-            return TRUE;
-        if (!buttons.first)
-            buttons.first = child;
-        buttons.last = child;
-        ++buttons.count;
-        return TRUE;
-    }
-};
-
-LRESULT CALLBACK FilterBoxMessage(int code, WPARAM wParam, LPARAM lParam)
-{
-    if (code == MSGF_DIALOGBOX) {
-        const auto& message = *reinterpret_cast<const MSG*>(lParam);
-        const int key = SoftKeyIndex(message.wParam);
-        if (key >= 0 && message.message == WM_KEYDOWN) {
-            const BoxButtons buttons(GetActiveWindow());
-            if (key == 0)
-                PostMessageW(buttons.first, BM_CLICK, 0, 0);
-            else if (buttons.count > 1)
-                PostMessageW(buttons.last, BM_CLICK, 0, 0);
-            return TRUE;
-        }
-    }
-    return CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
 } // namespace
 
 HWND FindMenuBar(HWND owner)
@@ -125,15 +85,6 @@ int TrackMenu(HMENU menu, UINT flags, int x, int y, HWND owner, const TPMPARAMS*
     if (open.pressedKey >= 0)
         PostMessageW(owner, WM_KEYDOWN, open.pressedKey == 0 ? VK_F1 : VK_F2, 1);
     return result;
-}
-
-int ShowMessageBox(HWND owner, const wchar_t* text, const wchar_t* caption, UINT type)
-{
-    const HHOOK hook = SetWindowsHookExW(WH_MSGFILTER, FilterBoxMessage, nullptr, GetCurrentThreadId());
-    const int answer = MessageBoxW(owner, text, caption, type);
-    if (hook)
-        UnhookWindowsHookEx(hook);
-    return answer;
 }
 
 } // namespace handheld

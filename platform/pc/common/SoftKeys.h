@@ -1,5 +1,4 @@
-// Soft keys: how the key F1 or F2 reaches the menu bar of the active window, also while a menu or a box is
-// open.
+// Soft keys: how the key F1 or F2 reaches the menu bar of the active window, also while a menu is open.
 #pragma once
 
 #include <windows.h>
@@ -32,8 +31,5 @@ struct MenuKey
 // pressed again afterwards, for the bar; a tap on the key that opened it only closes the menu.
 int TrackMenu(HMENU menu, UINT flags, int x, int y, HWND owner, const TPMPARAMS* parameters,
               const MenuKey& ownKey);
-
-// MessageBoxW during which the soft keys press the box's first and last button.
-int ShowMessageBox(HWND owner, const wchar_t* text, const wchar_t* caption, UINT type);
 
 } // namespace handheld

@@ -1,5 +1,5 @@
 // Message boxes; in a run without a user they are written to the standard error output.
-#include "platform/pc/common/SoftKeys.h"
+#include "platform/pc/common/MessageBoxes.h"
 
 #include <string>
 

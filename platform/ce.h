@@ -18,6 +18,6 @@
 #include <string.h>
 #include <wchar.h>
 
-// The program's entry, called by the target's start-up code. commandLine is the whole command line as
-// GetCommandLineW gives it. The result is the process's exit code.
+// The program's entry, called by the target's start-up code. commandLine is what stands behind the program's
+// name, as GetCommandLineW gives it on a device. The result is the process's exit code.
 int ProgramMain(HINSTANCE instance, HINSTANCE previousInstance, const wchar_t* commandLine, int showCommand);

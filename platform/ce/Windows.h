@@ -14,6 +14,11 @@
 #define PDEVMODEW DesktopDeviceModePointer
 #define NPDEVMODEW DesktopDeviceModeNearPointer
 #define LPDEVMODEW DesktopDeviceModeLongPointer
+#define _SHFILEINFOW DesktopFileInfoTag
+#define SHFILEINFOW DesktopFileInfo
+#define _SHELLEXECUTEINFOW DesktopExecuteInfoTag
+#define SHELLEXECUTEINFOW DesktopExecuteInfo
+#define LPSHELLEXECUTEINFOW DesktopExecuteInfoLongPointer
 #endif
 
 #include <windows.h>
@@ -34,6 +39,14 @@
 #undef PDEVMODEW
 #undef NPDEVMODEW
 #undef LPDEVMODEW
+#undef _SHFILEINFOW
+#undef SHFILEINFOW
+#undef _SHELLEXECUTEINFOW
+#undef SHELLEXECUTEINFOW
+#undef LPSHELLEXECUTEINFOW
+
+#include "platform/ce/DeviceConstants.h"
+#include "platform/ce/DeviceStructures.h"
 #endif
 
 // Windows CE exports this without the W that <windows.h> adds.
@@ -54,22 +67,6 @@
 #endif
 #define LVS_EX_CE_THEME 0x20000000 // a bit of the device's list view; desktop list views keep and ignore it
 
-#ifdef UNDER_CE
-// The device marks the indices of system colours.
-#undef COLOR_SCROLLBAR
-#undef COLOR_WINDOW
-#undef COLOR_WINDOWFRAME
-#undef COLOR_WINDOWTEXT
-#undef COLOR_HIGHLIGHT
-#undef COLOR_HIGHLIGHTTEXT
-#define COLOR_SCROLLBAR (0 | 0x40000000)
-#define COLOR_WINDOW (5 | 0x40000000)
-#define COLOR_WINDOWFRAME (6 | 0x40000000)
-#define COLOR_WINDOWTEXT (8 | 0x40000000)
-#define COLOR_HIGHLIGHT (13 | 0x40000000)
-#define COLOR_HIGHLIGHTTEXT (14 | 0x40000000)
-#endif
-
 // A system colour's index as the window manager takes it in place of a brush.
 #define CE_COLOR_BRUSH(index) (reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(index) + 1))
 
@@ -77,54 +74,3 @@ extern "C" {
 __declspec(dllimport) DWORD_PTR WINAPI
     SHGetFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT infoSize, UINT flags);
 }
-
-#ifdef UNDER_CE
-struct WIN32_FIND_DATAW
-{
-    DWORD dwFileAttributes;
-    FILETIME ftCreationTime;
-    FILETIME ftLastAccessTime;
-    FILETIME ftLastWriteTime;
-    DWORD nFileSizeHigh;
-    DWORD nFileSizeLow;
-    DWORD dwOID; // the object store's name for the file
-    wchar_t cFileName[MAX_PATH];
-};
-
-struct DEVMODEW
-{
-    wchar_t dmDeviceName[32];
-    WORD dmSpecVersion;
-    WORD dmDriverVersion;
-    WORD dmSize;
-    WORD dmDriverExtra;
-    DWORD dmFields;
-    short dmOrientation; // of a printer's paper, as all up to dmCollate
-    short dmPaperSize;
-    short dmPaperLength;
-    short dmPaperWidth;
-    short dmScale;
-    short dmCopies;
-    short dmDefaultSource;
-    short dmPrintQuality;
-    short dmColor;
-    short dmDuplex;
-    short dmYResolution;
-    short dmTTOption;
-    short dmCollate;
-    wchar_t dmFormName[32];
-    WORD dmLogPixels;
-    DWORD dmBitsPerPel;
-    DWORD dmPelsWidth;
-    DWORD dmPelsHeight;
-    DWORD dmDisplayFlags;
-    DWORD dmDisplayFrequency;
-    DWORD dmDisplayOrientation; // of the screen: 0, 1 (90 degrees), 2 (180) or 4 (270)
-};
-
-extern "C" {
-// INVALID_HANDLE_VALUE when nothing matches.
-HANDLE WINAPI FindFirstFileW(const wchar_t* pattern, WIN32_FIND_DATAW* data);
-BOOL WINAPI FindNextFileW(HANDLE search, WIN32_FIND_DATAW* data);
-}
-#endif

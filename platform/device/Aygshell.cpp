@@ -1,27 +1,37 @@
 // The shell library's functions that it exports without a name, so that only their numbers can be looked up.
 #include "platform/device/LateFunction.h"
 
+#include "LateExports.h"
+
 static constinit LateFunction handleSettingChange(
-    L"aygshell.dll", 83,
+    late::SHHandleWMSettingChange,
     L"This device's shell lacks a function (aygshell.dll, 83): the input panel can cover the page.");
 static constinit LateFunction handleActivate(
-    L"aygshell.dll", 84,
+    late::SHHandleWMActivate,
     L"This device's shell lacks a function (aygshell.dll, 84): the input panel can stay open.");
 static constinit LateFunction
-    sendBack(L"aygshell.dll", 97,
+    sendBack(late::SHSendBackToFocusWindow,
              L"This device's shell lacks a function (aygshell.dll, 97): the Back key does not delete text.");
+
+// A Smartphone has none, and need not have the functions for it.
+static bool HasInputPanel()
+{
+    wchar_t platform[260];
+    return SystemParametersInfoW(SPI_GETPLATFORMTYPE, 260, platform, 0) &&
+           _wcsicmp(platform, L"PocketPC") == 0;
+}
 
 extern "C" {
 
 BOOL WINAPI SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info)
 {
-    auto* function = handleSettingChange.As<decltype(SHHandleWMSettingChange)>();
+    auto* function = handleSettingChange.As<decltype(SHHandleWMSettingChange)>(HasInputPanel());
     return function ? function(window, wParam, lParam, info) : FALSE;
 }
 
 BOOL WINAPI SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info, DWORD flags)
 {
-    auto* function = handleActivate.As<decltype(SHHandleWMActivate)>();
+    auto* function = handleActivate.As<decltype(SHHandleWMActivate)>(HasInputPanel());
     return function ? function(window, wParam, lParam, info, flags) : FALSE;
 }
 

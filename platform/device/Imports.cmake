@@ -1,7 +1,15 @@
-# qv_import_tables(<file> <library>...): writes the assembler source of the import tables from the lists of imports.
-function(qv_import_tables file)
+# What the device's executable needs of the lists of imports.
+
+# qv_import_files(<tables> <late>): writes the assembler source of the import tables, and the header that names what is
+# looked up late.
+function(qv_import_files tables late)
     set(text ".include \"Imports.inc\"\n")
-    foreach(library IN LISTS ARGN)
+    set(names "// The functions that are looked up late, as their libraries export them.\n#pragma once\n\n")
+    string(APPEND names "#include \"platform/device/LateFunction.h\"\n\nnamespace late {\n")
+    file(GLOB lists CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/imports/*.txt)
+    list(FILTER lists EXCLUDE REGEX "/evidence\\.txt$")
+    foreach(list IN LISTS lists)
+        get_filename_component(library ${list} NAME_WE)
         string(APPEND text "\nlibrary ${library}\n")
         qv_read_imports(${library} rows)
         foreach(row IN LISTS rows)
@@ -12,8 +20,13 @@ function(qv_import_tables file)
                 string(APPEND text "import_by_name ${library}, ${name}\n")
             elseif(ordinal MATCHES "^[0-9]+$")
                 string(APPEND text "import_by_ordinal ${library}, ${name}, ${ordinal}\n")
+            elseif(ordinal MATCHES "^late:([0-9]+)$")
+                string(APPEND names "inline constexpr LateExport ${name} = {L\"${library}.dll\", nullptr, ${CMAKE_MATCH_1}};\n")
+            elseif(ordinal STREQUAL "late")
+                string(APPEND names "inline constexpr LateExport ${name} = {L\"${library}.dll\", L\"${name}\", 0};\n")
             endif()
         endforeach()
     endforeach()
-    file(CONFIGURE OUTPUT ${file} CONTENT "${text}" @ONLY)
+    file(CONFIGURE OUTPUT ${tables} CONTENT "${text}" @ONLY)
+    file(CONFIGURE OUTPUT ${late} CONTENT "${names}}\n" @ONLY)
 endfunction()

@@ -1,10 +1,10 @@
 // LateFunction: a function that not every device's library exports, looked up when it is first called.
 #include "platform/device/LateFunction.h"
 
-// The device's function takes a wide name, the desktop's, which <windows.h> declares, a narrow one.
+// The device's function takes a wide name; the desktop's, which <windows.h> declares, a narrow one.
 extern "C" FARPROC WINAPI GetProcAddressW(HMODULE library, const wchar_t* name);
 
-void LateFunction::LookUp()
+void LateFunction::LookUp(bool isMissed)
 {
     // Before the message is shown: its loop can bring the next call.
     if (lookedUp) {
@@ -12,11 +12,12 @@ void LateFunction::LookUp()
     }
     lookedUp = true;
     // Never freed: a library that a process has called stays with it.
-    HMODULE module = LoadLibraryW(library);
+    HMODULE module = LoadLibraryW(wanted.library);
     if (module) {
-        address = reinterpret_cast<void*>(GetProcAddressW(module, name ? name : MAKEINTRESOURCEW(number)));
+        const wchar_t* name = wanted.name ? wanted.name : MAKEINTRESOURCEW(wanted.number);
+        address = reinterpret_cast<void*>(GetProcAddressW(module, name));
     }
-    if (!address && loss) {
+    if (!address && loss && isMissed) {
         MessageBoxW(nullptr, loss, L"Quorvane", MB_OK | MB_ICONWARNING);
     }
 }

@@ -3,33 +3,37 @@
 
 #include "platform/ce.h"
 
-// A device without it is told so once, with what does not work there; the call then does nothing.
-class LateFunction
+// What a library calls it. LateExports.h, which the build makes from the lists of imports, has one for each.
+struct LateExport
 {
     const wchar_t* library;
     const wchar_t* name; // null: the library exports it by its number alone
-    WORD number = 0;
-    const wchar_t* loss; // a whole sentence; null when nothing is lost
+    WORD number;
+};
+
+// A device without it is told so once, with what does not work there; the call then does nothing.
+class LateFunction
+{
+    const LateExport& wanted;
+    const wchar_t* loss; // a whole sentence; null when nobody would miss it
     void* address = nullptr;
     bool lookedUp = false;
 
-    void LookUp();
+    void LookUp(bool isMissed);
 
   public:
-    constexpr LateFunction(const wchar_t* fromLibrary, const wchar_t* itsName, const wchar_t* itsLoss)
-        : library(fromLibrary), name(itsName), loss(itsLoss)
-    {}
-    constexpr LateFunction(const wchar_t* fromLibrary, WORD itsNumber, const wchar_t* itsLoss)
-        : library(fromLibrary), name(nullptr), number(itsNumber), loss(itsLoss)
+    constexpr LateFunction(const LateExport& itsExport, const wchar_t* itsLoss)
+        : wanted(itsExport), loss(itsLoss)
     {}
     LateFunction(const LateFunction&) = delete;
     LateFunction& operator=(const LateFunction&) = delete;
 
-    // As a function of the given type; null when the device does not have it.
+    // As a function of the given type; null when the device does not have it. isMissed: whether this device
+    // is told.
     template <class Function>
-    Function* As()
+    Function* As(bool isMissed = true)
     {
-        LookUp();
+        LookUp(isMissed);
         return reinterpret_cast<Function*>(address);
     }
 };

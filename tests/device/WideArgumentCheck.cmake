@@ -1,5 +1,5 @@
-# No call of the program passes what takes two words, or a structure, through "...": the compiler aligns it to 8 bytes,
-# which the device's libraries do not expect. With a SOURCE, that file must be found to have MATCHES such calls.
+# No call of the program passes two words where the device's libraries would look for them elsewhere (see QUERY). With a
+# SOURCE, that file must be found to have EXPECTED such calls.
 cmake_minimum_required(VERSION 3.25)
 find_program(CLANG_QUERY NAMES clang-query clang-query-14 NO_CACHE REQUIRED)
 file(READ ${COMMANDS} database)
@@ -29,7 +29,7 @@ list(FILTER arguments EXCLUDE REGEX "^-W")
 if(SOURCE)
     set(sources ${SOURCE})
 else()
-    set(MATCHES 0)
+    set(EXPECTED 0)
 endif()
 execute_process(
     COMMAND ${CLANG_QUERY} -f ${QUERY} ${sources} -- --target=armv4t-none-eabi ${arguments} -w
@@ -37,16 +37,18 @@ execute_process(
 if(NOT result EQUAL 0 OR errors MATCHES "error:" OR output MATCHES "error:")
     message(FATAL_ERROR "clang-query: ${errors}${output}")
 endif()
-if(NOT output MATCHES "(^|\n)${MATCHES} match(es)?\\.")
-    message(FATAL_ERROR "not ${MATCHES} but these calls pass two words or a structure through \"...\": ${output}")
+if(NOT output MATCHES "(^|\n)${EXPECTED} match(es)?\\.")
+    message(FATAL_ERROR "not ${EXPECTED} calls pass two words where the device expects them elsewhere but: ${output}")
 endif()
 
 # Nor does the program read such an argument itself.
 if(NOT SOURCE)
-    foreach(source IN LISTS sources)
-        file(STRINGS ${source} lines REGEX "va_arg *\\(")
+    file(GLOB_RECURSE headers ${ROOT}/framework/*.h ${ROOT}/lists/*.h ${ROOT}/pages/*.h ${ROOT}/keys/*.h ${ROOT}/app/*.h
+        ${ROOT}/platform/ce/*.h ${ROOT}/platform/device/*.h)
+    foreach(file IN LISTS sources headers)
+        file(STRINGS ${file} lines REGEX "va_arg *\\(")
         if(lines)
-            message(FATAL_ERROR "${source} reads variadic arguments itself: ${lines}")
+            message(FATAL_ERROR "${file} reads variadic arguments itself: ${lines}")
         endif()
     endforeach()
     message(STATUS "${count} files")

@@ -1,0 +1,84 @@
+// Imports that no loader would find, or that the lists do not have.
+#include "tests/device/image/ImportFixture.h"
+
+class ImportNamesTest : public ImportFixture
+{};
+
+TEST_F(ImportNamesTest, NumberWithoutTheHighBitIsFound)
+{
+    PutNumber(0x00000009);
+    ExpectOnlyFault(image, "aygshell.dll: an import is neither a number nor the place of a name");
+}
+
+TEST_F(ImportNamesTest, NumberWithTheNextBitInsteadIsFound)
+{
+    PutNumber(0x40000009);
+    ExpectOnlyFault(image, "aygshell.dll: an import is neither a number nor the place of a name");
+}
+
+TEST_F(ImportNamesTest, NumberWithOneBitTooManyIsFound)
+{
+    PutNumber(0x80010009);
+    ExpectFault(image, "aygshell.dll: a number has bits that none has");
+}
+
+TEST_F(ImportNamesTest, UnlistedNumberIsFound)
+{
+    PutNumber(0x8000000A);
+    ExpectOnlyFault(image, "aygshell.dll: number 10 is not listed");
+}
+
+TEST_F(ImportNamesTest, NameAtAnOddAddressIsFound)
+{
+    // One byte further on: its zero falls on what fills up to the next name, or on that one's hint of zero.
+    const std::uint32_t place = Library("coredll.dll").lookups.at(0);
+    image.PutTextAt(place + 3, image.View().TextAt(place + 2));
+    PutImport("coredll.dll", 0, place + 1);
+    ExpectOnlyFault(image, "coredll.dll: a name is at an odd address");
+}
+
+TEST_F(ImportNamesTest, UnlistedNameIsFound)
+{
+    Rename("coredll.dll", "CreateWindowExW", "CreateWindowExA");
+    ExpectOnlyFault(image, "coredll.dll: CreateWindowExA is not listed");
+}
+
+TEST_F(ImportNamesTest, NameThatIsOnThePcOnlyIsFound)
+{
+    Rename("coredll.dll", "CreateCompatibleBitmap", "GetCurrentProcess");
+    ExpectOnlyFault(image, "coredll.dll: GetCurrentProcess is imported by name, but listed as pc");
+}
+
+TEST_F(ImportNamesTest, NameThatIsLookedUpLateIsFound)
+{
+    // In the place of a longer name of another library.
+    const std::uint32_t place =
+        Library("coredll.dll").lookups.at(IndexOf("coredll.dll", "CreateCompatibleBitmap"));
+    image.PutTextAt(place + 2, "SHHandleWMActivate");
+    PutImport("aygshell.dll", IndexOf("aygshell.dll", "SHCreateMenuBar"), place);
+    ExpectFault(image, "aygshell.dll: SHHandleWMActivate is imported by name, but listed as late");
+}
+
+TEST_F(ImportNamesTest, NameThatHasANumberIsFound)
+{
+    Rename("aygshell.dll", "SHCreateMenuBar", "AygshellStartup");
+    ExpectOnlyFault(image, "aygshell.dll: AygshellStartup is imported by name, but listed as 9");
+}
+
+TEST_F(ImportNamesTest, LibraryWithoutDllIsFound)
+{
+    image.PutTextAt(NameOf("ole32.dll"), "ole32");
+    ExpectOnlyFault(image, "ole32: the name does not end in .dll");
+}
+
+TEST_F(ImportNamesTest, LibraryWithoutAListIsFound)
+{
+    image.PutTextAt(NameOf("ole32.dll"), "ole16.dll");
+    ExpectOnlyFault(image, "ole16.dll: there is no list of its functions");
+}
+
+TEST_F(ImportNamesTest, FileOfEvidenceIsNoList)
+{
+    image.PutTextAt(NameOf("toolhelp.dll"), "evidence.dll");
+    ExpectFault(image, "evidence.dll: there is no list of its functions");
+}

@@ -167,13 +167,29 @@ TEST(RigTest, ATapBringsTheWindowUnderItToTheFront)
 {
     const Actor one;
     const Actor other;
-    const HWND left = one.Make({.place = {0, 30, 100, 200}});
-    const HWND right = other.Make({.place = {100, 30, 200, 200}});
+    // Below the top bar of any profile: the handheld would move them from under it, away from the tap.
+    const HWND left = one.Make({.place = {0, 60, 100, 200}});
+    const HWND right = other.Make({.place = {100, 60, 200, 200}});
     ASSERT_TRUE(BringToFront(right));
-    Tap(PointIn(left, 99, 169));
+    Tap(PointIn(left, 99, 139));
     EXPECT_TRUE(WaitFor([=] { return GetForegroundWindow() == left; }));
     Tap(PointIn(right, 0, 0));
     EXPECT_TRUE(WaitFor([=] { return GetForegroundWindow() == right; }));
+}
+
+TEST(RigTest, AWindowThatAppearsBelowTheStylusHearsNothingOfIt)
+{
+    const Actor actor;
+    MoveTo({70, 130});
+    const HWND window = actor.Make({.place = {20, 80, 120, 180}, .colour = Orange});
+    ASSERT_TRUE(BringToFront(window));
+    ASSERT_TRUE(WaitFor([] { return Picture::OfScreen().Count(Orange) == 100 * 100; }));
+    Picture::OfSettledScreen();
+    EXPECT_EQ(0, MoveCount(window));
+    StylusDown({70, 130});
+    MoveTo({71, 131});
+    EXPECT_TRUE(WaitFor([=] { return MoveCount(window) > 0; }));
+    StylusUp({71, 131});
 }
 
 TEST(RigTest, TypedTextArrives)
@@ -207,8 +223,8 @@ TEST(RigTest, AFocusSetInTheBackgroundCoversNothing)
 {
     const Actor background;
     const Actor front;
-    const HWND below = background.Make({.place = {0, 40, 100, 100}});
-    const HWND above = front.Make({.place = {0, 40, 100, 100}, .colour = Orange});
+    const HWND below = background.Make({.place = {0, 60, 100, 120}});
+    const HWND above = front.Make({.place = {0, 60, 100, 120}, .colour = Orange});
     ASSERT_TRUE(BringToFront(above));
     ASSERT_TRUE(WaitFor([] { return Picture::OfScreen().Count(Orange) == 100 * 60; }));
     background.Focus(below);

@@ -70,4 +70,9 @@ int KeyCount(HWND window)
     return static_cast<int>(Send(window, RegisterWindowMessageW(actor::KeyCountMessage)));
 }
 
+int MoveCount(HWND window)
+{
+    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::MoveCountMessage)));
+}
+
 } // namespace rig

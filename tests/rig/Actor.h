@@ -47,8 +47,10 @@ class Actor
     void Kill() { process.Terminate(); }
 };
 
-// How many WM_CLOSE messages a living actor window has received, and how many key presses.
+// How many WM_CLOSE messages a living actor window has received, how many key presses, and how many movements
+// of the stylus.
 int CloseCount(HWND window);
 int KeyCount(HWND window);
+int MoveCount(HWND window);
 
 } // namespace rig

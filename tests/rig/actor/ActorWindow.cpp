@@ -6,6 +6,7 @@ namespace {
 
 const UINT CloseCount = RegisterWindowMessageW(CloseCountMessage);
 const UINT KeyCount = RegisterWindowMessageW(KeyCountMessage);
+const UINT MoveCount = RegisterWindowMessageW(MoveCountMessage);
 
 } // namespace
 
@@ -60,6 +61,8 @@ LRESULT ActorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         return closes;
     if (message == KeyCount)
         return keys;
+    if (message == MoveCount)
+        return moves;
     switch (message) {
     case WM_CLOSE:
         OnClose();
@@ -69,6 +72,9 @@ LRESULT ActorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     case WM_KEYDOWN:
         keys++;
+        break;
+    case WM_MOUSEMOVE:
+        moves++;
         break;
     }
     return DefWindowProcW(window, message, wParam, lParam);

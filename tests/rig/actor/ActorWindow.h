@@ -11,6 +11,7 @@ class ActorWindow
     WindowOrder order;
     int closes = 0; // WM_CLOSE received
     int keys = 0;   // WM_KEYDOWN received
+    int moves = 0;  // WM_MOUSEMOVE received
 
   public:
     // Null when the window cannot be made.

@@ -42,6 +42,7 @@ struct WindowOrder
 
 // Answered by the actor's windows; registered by RegisterWindowMessageW.
 inline constexpr wchar_t CloseCountMessage[] = L"QvActorCloseCount"; // the number of WM_CLOSE received so far
+inline constexpr wchar_t MoveCountMessage[] = L"QvActorMoveCount";   // the number of WM_MOUSEMOVE
 inline constexpr wchar_t KeyCountMessage[] = L"QvActorKeyCount"; // the number of WM_KEYDOWN received so far
 
 } // namespace actor

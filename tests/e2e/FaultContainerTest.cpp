@@ -80,7 +80,7 @@ class FaultContainerTest : public ShellSession
 
     void ExpectFatal()
     {
-        program.emplace(Program::Start(L"", copy.Folder()));
+        StartProgram(L"", copy.Folder());
         const HWND box = program->WaitForDialog();
         ASSERT_TRUE(box) << "no report is shown";
         EXPECT_EQ(L"Fatal error", TextOf(box));

@@ -15,10 +15,13 @@ class FaultFatalTest : public ShellSession
     {
         ASSERT_TRUE(copy.Complete());
         ASSERT_TRUE(DeleteFileW(copy.Path(L"Quorvane.zrs").c_str()));
-        program.emplace(Program::Start(L"", copy.Folder()));
+        StartProgram(L"", copy.Folder());
         box = program->WaitForDialog();
         ASSERT_TRUE(box);
     }
+
+    // Before its folder.
+    void TearDown() override { program.reset(); }
 
     HWND MainWindow() const
     {
@@ -54,7 +57,7 @@ TEST_F(FaultFatalTest, ClosedByAKeyTheProcessEnds)
     ASSERT_TRUE(InFront(box));
     PressKey(VK_ESCAPE);
     ExpectEnd(0xFFFFFFFF);
-    EXPECT_FALSE(FindTopWindow({.className = L"QuorvaneApp", .visible = false}));
+    EXPECT_TRUE(WaitFor([] { return !FindTopWindow({.className = L"QuorvaneApp", .visible = false}); }));
 }
 
 TEST_F(FaultFatalTest, ClosedByATapTheProcessEnds)

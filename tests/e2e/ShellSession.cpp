@@ -12,16 +12,23 @@ ShellSession::ShellSession()
     SetProcessDPIAware();
 }
 
+void ShellSession::StartProgram(const std::wstring& arguments, const std::wstring& folder)
+{
+    program.reset(); // before the next one is started
+    program.emplace(Program::Start(arguments, folder));
+}
+
 void ShellSession::Launch(const std::wstring& arguments, const std::wstring& folder)
 {
-    program.emplace(Program::Start(arguments, folder));
+    StartProgram(arguments, folder);
     main = program->WaitForMainWindow();
+    EXPECT_TRUE(main) << program->WhyNoMainWindow();
 }
 
 void ShellSession::SetUp()
 {
     Launch();
-    ASSERT_TRUE(main) << "the main window did not appear";
+    ASSERT_TRUE(main);
     ASSERT_TRUE(program->WaitForPage(TasksPage));
     ASSERT_TRUE(WaitFor([&] { return GetForegroundWindow() == main; })) << "it did not come to the front";
 }

@@ -50,7 +50,9 @@ class ShellSession : public testing::Test
     // Starts the program and waits until it is in front on its first page.
     void SetUp() override;
 
-    // The same with a command line and from another folder; without waiting.
+    // Starts it, in place of the one before; without waiting.
+    void StartProgram(const std::wstring& arguments, const std::wstring& folder);
+    // Starts it and waits for its main window only.
     void Launch(const std::wstring& arguments = L"", const std::wstring& folder = rig::ProgramFolder());
 
     bool InFront(HWND window) const;

@@ -42,8 +42,9 @@ class StartSecondTest : public testing::Test
 
     void SetUp() override
     {
-        ASSERT_FALSE(FindTopWindow({.className = L"QuorvaneApp", .process = 0, .visible = false}) !=
-                     running.Window());
+        ASSERT_TRUE(WaitFor([&] {
+            return FindTopWindow({.className = L"QuorvaneApp", .visible = false}) == running.Window();
+        })) << "a program is running";
     }
 
     // Runs it to its end; it must not show or make a window of its own.

@@ -166,8 +166,8 @@ TEST_F(StartTest, ClosedItEndsWithTheExitCodeZero)
 {
     PostMessageW(main, WM_CLOSE, 0, 0);
     ExpectEnd();
-    EXPECT_FALSE(FindTopWindow({.className = L"QuorvaneApp", .visible = false}));
-    EXPECT_FALSE(FindTopWindow({.className = L"menu_worker", .owner = main, .visible = false}));
+    EXPECT_TRUE(WaitFor([] { return !FindTopWindow({.className = L"QuorvaneApp", .visible = false}); }));
+    EXPECT_TRUE(WaitFor([] { return !FindTopWindow({.className = L"menu_worker", .visible = false}); }));
 }
 
 TEST_F(StartTest, TheExitCommandEndsItWithTheExitCodeZero)

@@ -16,13 +16,6 @@ namespace {
 constexpr DWORD AfterLateStarters = 1500; // ms: the first showing is followed by a refresh a second later
 constexpr wchar_t HandleLabel[] = L"\r\nWindow handle: 0x";
 
-bool IsOrIsOwnedBy(HWND window, HWND owner)
-{
-    while (window && window != owner)
-        window = GetWindow(window, GW_OWNER);
-    return window != nullptr;
-}
-
 bool AreInOrder(const std::vector<HWND>& wanted)
 {
     auto next = wanted.begin();
@@ -33,16 +26,6 @@ bool AreInOrder(const std::vector<HWND>& wanted)
     return next == wanted.end();
 }
 
-// Whether no other program's window is before it.
-bool IsFrontMost(HWND wanted)
-{
-    for (HWND window : TopWindows()) {
-        if (IsWindowVisible(window) && !(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW))
-            return IsOrIsOwnedBy(window, wanted);
-    }
-    return false;
-}
-
 } // namespace
 
 rig::ActorWindowSpec Task(const std::wstring& title)
@@ -50,14 +33,13 @@ rig::ActorWindowSpec Task(const std::wstring& title)
     return {.title = title};
 }
 
-bool TasksScreen::Start()
+void TasksScreen::Start()
 {
     program.reset();
     program.emplace(Program::Start());
-    if (!program->WaitForMainWindow() || !program->WaitForPage(1))
-        return false;
+    ASSERT_TRUE(program->WaitForMainWindow()) << program->WhyNoMainWindow();
+    ASSERT_TRUE(program->WaitForPage(1));
     startedAt = GetTickCount();
-    return true;
 }
 
 bool TasksScreen::IsReady()
@@ -68,7 +50,7 @@ bool TasksScreen::IsReady()
 void TasksScreen::SetUp()
 {
     if (!IsReady()) {
-        ASSERT_TRUE(Start());
+        ASSERT_NO_FATAL_FAILURE(Start());
     }
     HideNotice();
     Send(Main(), WM_COMMAND, CommandShowTasks);
@@ -92,16 +74,6 @@ HWND TasksScreen::Today()
             return window;
     }
     return nullptr;
-}
-
-bool TasksScreen::Raise(HWND window)
-{
-    // Wine shows the new foreground window before the others and leaves it where it was in its own order.
-    return BringToFront(window) && WaitFor([=] {
-               Send(window, WM_NULL); // its own thread must have taken notice of either
-               SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-               return IsFrontMost(window);
-           });
 }
 
 void TasksScreen::Front() const

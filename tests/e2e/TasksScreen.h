@@ -35,8 +35,6 @@ class TasksScreen : public testing::Test
     // The handheld's home screen, a task of its own.
     static HWND Today();
 
-    // Brings a window to the front, before all others.
-    static bool Raise(HWND window);
     // The program in front, with a fresh list.
     void Front() const;
     // The windows, in this order from the front, with the program before them.
@@ -66,7 +64,7 @@ class TasksScreen : public testing::Test
 
   private:
     static DWORD startedAt;
-    static bool Start();
+    static void Start();
     static bool IsReady();
 };
 

@@ -34,15 +34,27 @@ ChildProcess::ChildProcess(const std::wstring& executable, const std::wstring& a
     std::wstring commandLine = L"\"" + executable + L"\"";
     if (!arguments.empty())
         commandLine += L" " + arguments;
+    const wchar_t* const where = folder.empty() ? nullptr : folder.c_str();
+    // No program has run yet when this fails, as it now and then does under Wine 8.0 on a busy machine.
+    for (int tries = 0; tries < 3 && !Create(commandLine, where); tries++)
+        Sleep(100);
+}
+
+bool ChildProcess::Create(std::wstring commandLine, const wchar_t* folder)
+{
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
-    PROCESS_INFORMATION started = {};
-    if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                       folder.empty() ? nullptr : folder.c_str(), &startup, &started)) {
-        CloseHandle(started.hThread);
-        process = started.hProcess;
-        id = started.dwProcessId;
+    PROCESS_INFORMATION created = {};
+    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder, &startup,
+                        &created)) {
+        startError = GetLastError();
+        return false;
     }
+    CloseHandle(created.hThread);
+    process = created.hProcess;
+    id = created.dwProcessId;
+    startError = 0;
+    return true;
 }
 
 ChildProcess::~ChildProcess()

@@ -13,6 +13,9 @@ class ChildProcess
 {
     HANDLE process = nullptr;
     DWORD id = 0;
+    DWORD startError = 0;
+
+    bool Create(std::wstring commandLine, const wchar_t* folder);
 
   public:
     ChildProcess() = default;
@@ -25,6 +28,8 @@ class ChildProcess
     ChildProcess& operator=(const ChildProcess&) = delete;
 
     DWORD Id() const { return id; }
+    // The system's reason why it could not be started; 0 when it was.
+    DWORD StartError() const { return startError; }
     HANDLE Handle() const { return process; }
     bool Running() const;
     // Nothing while it is running after that time.

@@ -25,6 +25,23 @@ bool Fits(HWND window, const WindowQuery& query)
            (query.title.empty() || TextOf(window) == query.title);
 }
 
+bool IsOrIsOwnedBy(HWND window, HWND owner)
+{
+    while (window && window != owner)
+        window = GetWindow(window, GW_OWNER);
+    return window != nullptr;
+}
+
+// Whether no other program's window is before it.
+bool IsFrontMost(HWND wanted)
+{
+    for (HWND window : TopWindows()) {
+        if (IsWindowVisible(window) && !(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW))
+            return IsOrIsOwnedBy(window, wanted);
+    }
+    return false;
+}
+
 } // namespace
 
 std::vector<HWND> TopWindows()
@@ -120,6 +137,16 @@ bool BringToFront(HWND window)
         SetForegroundWindow(window);
         return GetForegroundWindow() == window;
     });
+}
+
+bool Raise(HWND window)
+{
+    // Wine shows the new foreground window before the others and leaves it where it was in its own order.
+    return BringToFront(window) && WaitFor([=] {
+               Send(window, WM_NULL); // its own thread must have taken notice of either
+               SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+               return IsFrontMost(window);
+           });
 }
 
 LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

@@ -48,6 +48,10 @@ HWND OpenMenu();
 // Asks for the front and waits until the window is there; false when it does not get there.
 bool BringToFront(HWND window);
 
+// The same, and is before all other programs' windows in the system's order too, which lists of windows
+// follow.
+bool Raise(HWND window);
+
 // SendMessage that gives up when the window does not answer in time.
 LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 

@@ -4,6 +4,9 @@
 #include "tests/rig/Desktop.h"
 #include "tests/rig/WaitFor.h"
 
+#include <sstream>
+#include <vector>
+
 namespace rig {
 namespace {
 
@@ -14,11 +17,22 @@ constexpr int LastPage = 4;
 constexpr int ListId = 110;
 constexpr std::chrono::milliseconds EndingTime{3000};
 
+std::vector<HWND> MainWindows()
+{
+    std::vector<HWND> windows;
+    for (HWND window = nullptr;
+         (window = FindWindowExW(nullptr, window, MainWindowClass, nullptr)) != nullptr;)
+        windows.push_back(window);
+    return windows;
+}
+
 } // namespace
 
 Program Program::Start(const std::wstring& arguments, const std::wstring& folder)
 {
     Program program;
+    if (!WaitFor([] { return MainWindows().empty(); }))
+        return program;
     program.started = std::make_unique<ChildProcess>(folder + L"\\Quorvane.exe", arguments, L"C:\\");
     program.process = program.started->Id();
     return program;
@@ -40,20 +54,39 @@ Program::~Program()
         PostMessageW(main, WM_CLOSE, 0, 0);
         started->ExitCode(EndingTime);
     }
-    // The window can outlive its process for a moment; the next program would take it for a running instance.
-    if (started && main) {
+    // What a test sees next must not be of this program.
+    if (started && process) {
         started.reset();
-        WaitFor([&] { return !IsWindow(main) || ProcessOf(main) != process; });
+        WaitFor([&] { return !FindTopWindow({.process = process, .visible = false}); });
     }
 }
 
 HWND Program::WaitForMainWindow()
 {
+    if (process == 0)
+        return nullptr;
     WaitFor([&] {
         main = FindTopWindow({.className = MainWindowClass, .title = MainWindowTitle, .process = process});
         return main || !IsRunning();
     });
     return main;
+}
+
+std::string Program::WhyNoMainWindow() const
+{
+    std::ostringstream why;
+    if (!started)
+        why << "the window of an earlier program stayed";
+    else if (started->StartError() != 0)
+        why << "the process could not be started, error " << started->StartError();
+    else if (const auto code = started->ExitCode())
+        why << "process " << process << " ended with the exit code " << *code;
+    else
+        why << "process " << process << " is running";
+    for (HWND window : MainWindows())
+        why << "; there is a main window " << window << " of process " << ProcessOf(window)
+            << (IsWindowVisible(window) ? ", visible" : ", hidden");
+    return why.str();
 }
 
 bool Program::IsRunning() const

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace rig {
 
@@ -21,7 +22,8 @@ class Program
 
   public:
     // Starts it with what follows its name in the command line. From another folder than the build's when a
-    // test has spoilt a copy of the program's files (see ProgramCopy).
+    // test has spoilt a copy of the program's files (see ProgramCopy). Not while the window of an earlier one
+    // is there, which it would take for a running instance.
     static Program Start(const std::wstring& arguments = L"", const std::wstring& folder = ProgramFolder());
     // One that something else has started; its main window is null when none is running.
     static Program Running();
@@ -31,6 +33,8 @@ class Program
 
     // Waits for the main window; null when the process ends before or never shows one.
     HWND WaitForMainWindow();
+    // Why there is no main window, as far as that can be seen from outside.
+    std::string WhyNoMainWindow() const;
     HWND MainWindow() const { return main; }
     DWORD Process() const { return process; }
     bool IsRunning() const;

@@ -27,6 +27,8 @@ ProgramCopy::ProgramCopy()
         fs::temp_directory_path(error) /
         (L"Quorvane-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++copies));
     folder = to.wstring();
+    // Process numbers come again in the next session, and a folder stays when its program outlives the test.
+    fs::remove_all(to, error);
     fs::create_directories(to, error);
     for (const auto& entry : fs::directory_iterator(from, error)) {
         if (!error && BelongsToProgram(entry.path()))

@@ -6,7 +6,7 @@ if(NOT QV_HOST_CXX)
     message(FATAL_ERROR "No C++ compiler for the building machine was found (Debian: g++).")
 endif()
 
-set(QV_HOST_CXX_FLAGS -std=c++20 -O1 -Wall -Wextra -Wshadow -Wconversion -Wcast-qual -Wnon-virtual-dtor -Werror)
+set(QV_HOST_CXX_FLAGS -std=c++20 -O0 -Wall -Wextra -Wshadow -Wconversion -Wcast-qual -Wnon-virtual-dtor -Werror)
 set(QV_HOST_LINK_FLAGS "")
 if(QV_CHECKED)
     # Hostile inputs have to be refused without a single bad access.

@@ -3,16 +3,6 @@
 
 #include "LateExports.h"
 
-static constinit LateFunction handleSettingChange(
-    late::SHHandleWMSettingChange,
-    L"This device's shell lacks a function (aygshell.dll, 83): the input panel can cover the page.");
-static constinit LateFunction handleActivate(
-    late::SHHandleWMActivate,
-    L"This device's shell lacks a function (aygshell.dll, 84): the input panel can stay open.");
-static constinit LateFunction
-    sendBack(late::SHSendBackToFocusWindow,
-             L"This device's shell lacks a function (aygshell.dll, 97): the Back key does not delete text.");
-
 // A Smartphone has none, and need not have the functions for it.
 static bool HasInputPanel()
 {
@@ -21,17 +11,29 @@ static bool HasInputPanel()
            _wcsicmp(platform, L"PocketPC") == 0;
 }
 
+static constinit LateFunction handleSettingChange(
+    late::SHHandleWMSettingChange,
+    L"This device's shell lacks a function (aygshell.dll, 83): the input panel can cover the page.",
+    HasInputPanel);
+static constinit LateFunction
+    handleActivate(late::SHHandleWMActivate,
+                   L"This device's shell lacks a function (aygshell.dll, 84): the input panel can stay open.",
+                   HasInputPanel);
+static constinit LateFunction
+    sendBack(late::SHSendBackToFocusWindow,
+             L"This device's shell lacks a function (aygshell.dll, 97): the Back key does not delete text.");
+
 extern "C" {
 
 BOOL WINAPI SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info)
 {
-    auto* function = handleSettingChange.As<decltype(SHHandleWMSettingChange)>(HasInputPanel());
+    auto* function = handleSettingChange.As<decltype(SHHandleWMSettingChange)>();
     return function ? function(window, wParam, lParam, info) : FALSE;
 }
 
 BOOL WINAPI SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info, DWORD flags)
 {
-    auto* function = handleActivate.As<decltype(SHHandleWMActivate)>(HasInputPanel());
+    auto* function = handleActivate.As<decltype(SHHandleWMActivate)>();
     return function ? function(window, wParam, lParam, info, flags) : FALSE;
 }
 

@@ -4,7 +4,7 @@
 // The device's function takes a wide name; the desktop's, which <windows.h> declares, a narrow one.
 extern "C" FARPROC WINAPI GetProcAddressW(HMODULE library, const wchar_t* name);
 
-void LateFunction::LookUp(bool isMissed)
+void LateFunction::LookUp()
 {
     // Before the message is shown: its loop can bring the next call.
     if (lookedUp) {
@@ -17,7 +17,7 @@ void LateFunction::LookUp(bool isMissed)
         const wchar_t* name = wanted.name ? wanted.name : MAKEINTRESOURCEW(wanted.number);
         address = reinterpret_cast<void*>(GetProcAddressW(module, name));
     }
-    if (!address && loss && isMissed) {
+    if (!address && loss && (!isMissed || isMissed())) {
         MessageBoxW(nullptr, loss, L"Quorvane", MB_OK | MB_ICONWARNING);
     }
 }

@@ -16,24 +16,25 @@ class LateFunction
 {
     const LateExport& wanted;
     const wchar_t* loss; // a whole sentence; null when nobody would miss it
+    bool (*isMissed)();  // whether this device would miss it; null when any would
     void* address = nullptr;
     bool lookedUp = false;
 
-    void LookUp(bool isMissed);
+    void LookUp();
 
   public:
-    constexpr LateFunction(const LateExport& itsExport, const wchar_t* itsLoss)
-        : wanted(itsExport), loss(itsLoss)
+    constexpr LateFunction(const LateExport& itsExport, const wchar_t* itsLoss,
+                           bool (*itIsMissed)() = nullptr)
+        : wanted(itsExport), loss(itsLoss), isMissed(itIsMissed)
     {}
     LateFunction(const LateFunction&) = delete;
     LateFunction& operator=(const LateFunction&) = delete;
 
-    // As a function of the given type; null when the device does not have it. isMissed: whether this device
-    // is told.
+    // As a function of the given type; null when the device does not have it.
     template <class Function>
-    Function* As(bool isMissed = true)
+    Function* As()
     {
-        LookUp(isMissed);
+        LookUp();
         return reinterpret_cast<Function*>(address);
     }
 };

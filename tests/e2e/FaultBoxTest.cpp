@@ -1,29 +1,18 @@
 // The fatal report's box on the screen: whole, readable, and with the caption of the active window.
 // profiles: pocketpc pocketpc-vga
-#include "tests/e2e/ShellSession.h"
+#include "tests/e2e/FatalBoxSession.h"
 #include "tests/rig/Picture.h"
-#include "tests/rig/ProgramCopy.h"
 
 using namespace rig;
 
-class FaultBoxTest : public ShellSession
+class FaultBoxTest : public FatalBoxSession
 {
   protected:
-    ProgramCopy copy;
-    HWND box = nullptr;
-
     void SetUp() override
     {
-        ASSERT_TRUE(copy.Complete());
-        ASSERT_TRUE(DeleteFileW(copy.Path(L"Quorvane.zrs").c_str()));
-        StartProgram(L"", copy.Folder());
-        box = program->WaitForDialog();
-        ASSERT_TRUE(box);
+        ASSERT_NO_FATAL_FAILURE(FatalBoxSession::SetUp());
         ASSERT_TRUE(InFront(box));
     }
-
-    // Before its folder.
-    void TearDown() override { program.reset(); }
 
     // The visible parts of a class.
     std::vector<RECT> Parts(const wchar_t* className) const

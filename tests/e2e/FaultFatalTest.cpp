@@ -1,28 +1,12 @@
 // The fatal report: a box of its own, in front of a program that stays as it is until the box is closed.
-#include "tests/e2e/ShellSession.h"
+#include "tests/e2e/FatalBoxSession.h"
 #include "tests/rig/Picture.h"
-#include "tests/rig/ProgramCopy.h"
 
 using namespace rig;
 
-class FaultFatalTest : public ShellSession
+class FaultFatalTest : public FatalBoxSession
 {
   protected:
-    ProgramCopy copy;
-    HWND box = nullptr;
-
-    void SetUp() override
-    {
-        ASSERT_TRUE(copy.Complete());
-        ASSERT_TRUE(DeleteFileW(copy.Path(L"Quorvane.zrs").c_str()));
-        StartProgram(L"", copy.Folder());
-        box = program->WaitForDialog();
-        ASSERT_TRUE(box);
-    }
-
-    // Before its folder.
-    void TearDown() override { program.reset(); }
-
     HWND MainWindow() const
     {
         return FindTopWindow({.className = L"QuorvaneApp", .process = program->Process(), .visible = false});

@@ -7,16 +7,7 @@
 #include "tools/common/InputFile.h"
 #include "tools/common/OutputFile.h"
 #include "tools/common/Refusal.h"
-
-#include <cstdio>
-#include <exception>
-
-static void Print(const std::string& text)
-{
-    if (std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0) {
-        throw Refusal("the standard output cannot be written");
-    }
-}
+#include "tools/common/RunTool.h"
 
 static Installation ReadDescription(const std::string& file)
 {
@@ -58,14 +49,5 @@ static void Run(const CommandLine& call)
 
 int main(int argc, char** argv)
 {
-    try {
-        Run(CommandLine::Parse(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc)));
-        return 0;
-    } catch (const UsageError& error) {
-        std::fprintf(stderr, "cabheader: %s (see cabheader --help)\n", error.what());
-        return 2;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "cabheader: %s\n", error.what());
-        return 1;
-    }
+    return RunTool<CommandLine>("cabheader", argc, argv, Run);
 }

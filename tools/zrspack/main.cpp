@@ -2,23 +2,16 @@
 #include "tools/common/InputFile.h"
 #include "tools/common/OutputFile.h"
 #include "tools/common/Refusal.h"
+#include "tools/common/RunTool.h"
 #include "tools/zrspack/ByteView.h"
 #include "tools/zrspack/CommandLine.h"
 #include "tools/zrspack/ContainerListing.h"
 #include "tools/zrspack/ContainerWriter.h"
 #include "tools/zrspack/PictureCheck.h"
 
-#include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <system_error>
 #include <utility>
-
-static void Print(const std::string& text)
-{
-    if (std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0)
-        throw Refusal("the standard output cannot be written");
-}
 
 static void Pack(const CommandLine& call)
 {
@@ -71,14 +64,5 @@ static void Run(const CommandLine& call)
 
 int main(int argc, char** argv)
 {
-    try {
-        Run(CommandLine::Parse(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc)));
-        return 0;
-    } catch (const UsageError& error) {
-        std::fprintf(stderr, "zrspack: %s (see zrspack --help)\n", error.what());
-        return 2;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "zrspack: %s\n", error.what());
-        return 1;
-    }
+    return RunTool<CommandLine>("zrspack", argc, argv, Run);
 }

@@ -1,6 +1,6 @@
 // bench_page.exe: measures the page of the running applications from inside the program.
 #include "bench/page/Measurements.h"
-#include "tests/rig/Actor.h"
+#include "rig/Actor.h"
 
 #include <cstdio>
 #include <memory>

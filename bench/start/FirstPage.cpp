@@ -1,8 +1,8 @@
 // When a task manager shows its first page.
 #include "bench/start/FirstPage.h"
 
-#include "tests/rig/Desktop.h"
-#include "tests/rig/Picture.h"
+#include "rig/Desktop.h"
+#include "rig/Picture.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include "bench/Row.h"
 #include "bench/Stopwatch.h"
 #include "bench/start/FirstPage.h"
-#include "tests/rig/Actor.h"
-#include "tests/rig/Desktop.h"
+#include "rig/Actor.h"
+#include "rig/Desktop.h"
 
 #include <psapi.h>
 

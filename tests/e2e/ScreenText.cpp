@@ -1,7 +1,7 @@
 // What texts look like on the handheld.
 #include "tests/e2e/ScreenText.h"
 
-#include "tests/rig/Controls.h"
+#include "rig/Controls.h"
 
 using rig::Picture;
 

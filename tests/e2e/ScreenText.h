@@ -2,8 +2,8 @@
 // notices.
 #pragma once
 
-#include "tests/rig/Picture.h"
-#include "tests/rig/WaitFor.h"
+#include "rig/Picture.h"
+#include "rig/WaitFor.h"
 
 #include <string>
 

@@ -1,9 +1,9 @@
 // ShellSession: Quorvane running in front, where the end-to-end tests of the shell begin.
 #include "tests/e2e/ShellSession.h"
 
-#include "tests/rig/Actor.h"
-#include "tests/rig/Controls.h"
-#include "tests/rig/Picture.h"
+#include "rig/Actor.h"
+#include "rig/Controls.h"
+#include "rig/Picture.h"
 
 using namespace rig;
 

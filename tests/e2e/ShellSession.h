@@ -1,10 +1,10 @@
 // ShellSession: Quorvane running in front, where the end-to-end tests of the shell begin.
 #pragma once
 
-#include "tests/rig/Desktop.h"
-#include "tests/rig/Input.h"
-#include "tests/rig/Program.h"
-#include "tests/rig/WaitFor.h"
+#include "rig/Desktop.h"
+#include "rig/Input.h"
+#include "rig/Program.h"
+#include "rig/WaitFor.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // TasksScreen: the program on its page of running applications, used as a user does.
 #include "tests/e2e/TasksScreen.h"
 
-#include "tests/rig/Controls.h"
-#include "tests/rig/Desktop.h"
-#include "tests/rig/Input.h"
-#include "tests/rig/WaitFor.h"
+#include "rig/Controls.h"
+#include "rig/Desktop.h"
+#include "rig/Input.h"
+#include "rig/WaitFor.h"
 
 using namespace rig;
 

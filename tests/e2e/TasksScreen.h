@@ -2,8 +2,8 @@
 // derive from it.
 #pragma once
 
-#include "tests/rig/Actor.h"
-#include "tests/rig/Program.h"
+#include "rig/Actor.h"
+#include "rig/Program.h"
 
 #include <gtest/gtest.h>
 

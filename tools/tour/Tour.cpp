@@ -2,11 +2,11 @@
 #include "tools/tour/Tour.h"
 
 #include "resources/ids.h"
-#include "tests/rig/Controls.h"
-#include "tests/rig/Desktop.h"
-#include "tests/rig/Input.h"
-#include "tests/rig/Picture.h"
-#include "tests/rig/WaitFor.h"
+#include "rig/Controls.h"
+#include "rig/Desktop.h"
+#include "rig/Input.h"
+#include "rig/Picture.h"
+#include "rig/WaitFor.h"
 
 using namespace rig;
 

@@ -1,7 +1,7 @@
 // Tour: goes through the program's states as a user would and keeps a picture of each.
 #pragma once
 
-#include "tests/rig/Program.h"
+#include "rig/Program.h"
 
 #include <functional>
 #include <stdexcept>

@@ -1,0 +1,78 @@
+// Actor: a running actor.exe and its windows, for tests that need other programs with particular windows.
+#include "rig/Actor.h"
+
+#include "rig/Desktop.h"
+#include "rig/WaitFor.h"
+
+namespace rig {
+namespace {
+
+template <size_t Size>
+bool CopyText(const std::wstring& text, wchar_t (&buffer)[Size])
+{
+    if (text.size() >= Size)
+        return false;
+    text.copy(buffer, text.size());
+    buffer[text.size()] = L'\0';
+    return true;
+}
+
+LRESULT Order(HWND control, actor::Order order, const void* data, size_t size)
+{
+    COPYDATASTRUCT copy = {order, static_cast<DWORD>(size), const_cast<void*>(data)};
+    return Send(control, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&copy));
+}
+
+} // namespace
+
+Actor::Actor(const std::wstring& executable) : process(executable, L"")
+{
+    const std::wstring id = std::to_wstring(process.Id());
+    WaitFor([&] {
+        control = FindWindowExW(HWND_MESSAGE, nullptr, actor::ControlClass, id.c_str());
+        return control || !process.Running();
+    });
+}
+
+HWND Actor::Make(const ActorWindowSpec& spec) const
+{
+    actor::WindowOrder order = {};
+    if (!CopyText(spec.className, order.className) || !CopyText(spec.title, order.title))
+        return nullptr;
+    order.style = spec.style;
+    order.exStyle = spec.exStyle;
+    order.owner = spec.owner;
+    order.place = spec.place;
+    order.closing = spec.closing;
+    order.delay = spec.delay;
+    order.colour = spec.colour;
+    order.endsActor = spec.endsActor;
+    return reinterpret_cast<HWND>(Order(control, actor::MakeWindow, &order, sizeof(order)));
+}
+
+void Actor::Vanish(HWND window) const
+{
+    Order(control, actor::VanishWindow, &window, sizeof(window));
+}
+
+void Actor::Focus(HWND window) const
+{
+    Order(control, actor::FocusWindow, &window, sizeof(window));
+}
+
+int CloseCount(HWND window)
+{
+    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::CloseCountMessage)));
+}
+
+int KeyCount(HWND window)
+{
+    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::KeyCountMessage)));
+}
+
+int MoveCount(HWND window)
+{
+    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::MoveCountMessage)));
+}
+
+} // namespace rig

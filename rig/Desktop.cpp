@@ -1,0 +1,159 @@
+// The windows on the handheld's screen, of whatever process, as a test sees them.
+#include "rig/Desktop.h"
+
+#include "rig/WaitFor.h"
+
+namespace rig {
+namespace {
+
+constexpr UINT AnswerTime = 5000; // ms
+constexpr int LongestText = 32768;
+constexpr wchar_t MenuClass[] = L"#32768";
+
+BOOL CALLBACK Collect(HWND window, LPARAM list)
+{
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
+bool Fits(HWND window, const WindowQuery& query)
+{
+    return (!query.visible || IsWindowVisible(window)) &&
+           (query.className.empty() || ClassOf(window) == query.className) &&
+           (query.process == 0 || ProcessOf(window) == query.process) &&
+           (!query.owner || GetWindow(window, GW_OWNER) == query.owner) &&
+           (query.title.empty() || TextOf(window) == query.title);
+}
+
+bool IsOrIsOwnedBy(HWND window, HWND owner)
+{
+    while (window && window != owner)
+        window = GetWindow(window, GW_OWNER);
+    return window != nullptr;
+}
+
+// Whether no other program's window is before it.
+bool IsFrontMost(HWND wanted)
+{
+    for (HWND window : TopWindows()) {
+        if (IsWindowVisible(window) && !(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW))
+            return IsOrIsOwnedBy(window, wanted);
+    }
+    return false;
+}
+
+} // namespace
+
+std::vector<HWND> TopWindows()
+{
+    std::vector<HWND> windows;
+    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+HWND FindTopWindow(const WindowQuery& query)
+{
+    for (HWND window : TopWindows()) {
+        if (Fits(window, query))
+            return window;
+    }
+    return nullptr;
+}
+
+HWND WaitForTopWindow(const WindowQuery& query)
+{
+    return WaitFor([&] { return FindTopWindow(query); });
+}
+
+HWND FindTopWindowByPrefix(const std::wstring& classPrefix, DWORD process)
+{
+    for (HWND window : TopWindows()) {
+        if (IsWindowVisible(window) && ProcessOf(window) == process &&
+            ClassOf(window).starts_with(classPrefix))
+            return window;
+    }
+    return nullptr;
+}
+
+HWND FindDescendant(HWND parent, const std::wstring& className, int id)
+{
+    std::vector<HWND> windows;
+    EnumChildWindows(parent, Collect, reinterpret_cast<LPARAM>(&windows));
+    for (HWND window : windows) {
+        if (ClassOf(window) == className && (id == -1 || GetDlgCtrlID(window) == id))
+            return window;
+    }
+    return nullptr;
+}
+
+std::wstring ClassOf(HWND window)
+{
+    wchar_t name[512];
+    const int length = GetClassNameW(window, name, 512);
+    return std::wstring(name, static_cast<size_t>(length));
+}
+
+DWORD ProcessOf(HWND window)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process;
+}
+
+std::wstring TextOf(HWND window)
+{
+    std::wstring text(LongestText, L'\0');
+    const LRESULT length =
+        Send(window, WM_GETTEXT, static_cast<WPARAM>(text.size()), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<size_t>(length));
+    return text;
+}
+
+std::wstring ExecutableOf(DWORD process)
+{
+    wchar_t path[MAX_PATH];
+    DWORD size = MAX_PATH;
+    const HANDLE handle = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
+    if (!handle)
+        return {};
+    const bool known = QueryFullProcessImageNameW(handle, 0, path, &size) != FALSE;
+    CloseHandle(handle);
+    if (!known)
+        return {};
+    const std::wstring whole(path, size);
+    return whole.substr(whole.find_last_of(L'\\') + 1);
+}
+
+HWND OpenMenu()
+{
+    return FindTopWindow({.className = MenuClass});
+}
+
+bool BringToFront(HWND window)
+{
+    return WaitFor([=] {
+        if (GetForegroundWindow() == window)
+            return true;
+        SetForegroundWindow(window);
+        return GetForegroundWindow() == window;
+    });
+}
+
+bool Raise(HWND window)
+{
+    // Wine shows the new foreground window before the others and leaves it where it was in its own order.
+    return BringToFront(window) && WaitFor([=] {
+               Send(window, WM_NULL); // its own thread must have taken notice of either
+               SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+               return IsFrontMost(window);
+           });
+}
+
+LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    DWORD_PTR result = 0;
+    SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, AnswerTime, &result);
+    return static_cast<LRESULT>(result);
+}
+
+} // namespace rig

@@ -1,0 +1,126 @@
+// The menu of the page of running applications: its items, and that each runs its command.
+#include "tests/e2e/TasksScreen.h"
+
+#include "rig/Controls.h"
+#include "rig/Desktop.h"
+#include "rig/Input.h"
+#include "rig/WaitFor.h"
+
+using namespace rig;
+
+namespace {
+
+struct Item
+{
+    int command; // 0 of a separator, -1 of a submenu
+    std::wstring text;
+    bool operator==(const Item&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& stream, const Item& item)
+{
+    return stream << item.command << " " << testing::PrintToString(item.text);
+}
+
+std::vector<Item> ItemsOf(HMENU menu)
+{
+    std::vector<Item> items;
+    for (int i = 0; i < GetMenuItemCount(menu); i++) {
+        wchar_t text[100] = {};
+        GetMenuStringW(menu, static_cast<UINT>(i), text, 100, MF_BYPOSITION);
+        items.push_back({static_cast<int>(GetMenuItemID(menu, i)), text});
+    }
+    return items;
+}
+
+} // namespace
+
+class TaskMenuTest : public TasksScreen
+{
+  protected:
+    const Actor actor;
+
+    void Choose(int item) const
+    {
+        PressKey(VK_F2);
+        ASSERT_TRUE(WaitFor([] { return OpenMenu(); }));
+        PressKey(VK_DOWN, item);
+        PressKey(VK_RETURN);
+    }
+};
+
+TEST_F(TaskMenuTest, TheItemsHaveTheirTextsAndOrder)
+{
+    // A menu's items cannot be asked for from another process, so they are read from the program's file.
+    const HMODULE file =
+        LoadLibraryExW((ProgramFolder() + L"\\Quorvane.exe").c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    ASSERT_TRUE(file);
+    const HMENU menu = LoadMenuW(file, MAKEINTRESOURCEW(134));
+    const HMENU items = GetSubMenu(menu, 0);
+    EXPECT_EQ((std::vector<Item>{{32801, L"Switch to appliction"},
+                                 {32800, L"Close application"},
+                                 {0, L""},
+                                 {32816, L"Close all"},
+                                 {0, L""},
+                                 {32799, L"Application info"},
+                                 {32792, L"Windows list"},
+                                 {0, L""},
+                                 {32793, L"Refresh"},
+                                 {0, L""},
+                                 {-1, L"View"},
+                                 {0, L""},
+                                 {-1, L"More"},
+                                 {0, L""},
+                                 {32773, L"Exit"}}),
+              ItemsOf(items));
+    EXPECT_EQ(
+        (std::vector<Item>{
+            {32796, L"Runnig apps"}, {32803, L"Start"}, {32797, L"System info"}, {32798, L"Processes"}}),
+        ItemsOf(GetSubMenu(items, 10)));
+    EXPECT_EQ((std::vector<Item>{{32814, L"Hardware keys"}, {0, L""}, {32771, L"About"}}),
+              ItemsOf(GetSubMenu(items, 12)));
+    DestroyMenu(menu);
+    FreeLibrary(file);
+}
+
+TEST_F(TaskMenuTest, ApplicationInfoShowsTheReportOnTheSelectedTask)
+{
+    const HWND a = actor.Make(Task(L"A"));
+    Front();
+    Select(1);
+    Choose(4);
+    const HWND dialog = program->WaitForDialog();
+    const HWND edit = FindDescendant(dialog, L"Edit", 126);
+    EXPECT_TRUE(WaitFor([=] { return ReportedWindow(TextOf(edit)) == a; }));
+    EXPECT_EQ(L"Information", TextOf(dialog));
+    EXPECT_TRUE(CloseDialog(dialog));
+}
+
+TEST_F(TaskMenuTest, WindowsListShowsTheTree)
+{
+    ASSERT_TRUE(actor.Make(Task(L"A")));
+    Front();
+    Select(1);
+    Choose(5);
+    const HWND dialog = program->WaitForDialog();
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(L"Windows list", TextOf(dialog));
+    EXPECT_TRUE(FindDescendant(dialog, L"SysTreeView32", 1000));
+    EXPECT_TRUE(CloseDialog(dialog));
+}
+
+TEST_F(TaskMenuTest, RefreshListsAgain)
+{
+    const HWND a = actor.Make(Task(L"A"));
+    FrontWithoutRefreshes();
+    actor.Vanish(a);
+    ASSERT_EQ(3, ListCount(list)) << "refreshed too early";
+    Choose(6);
+    EXPECT_TRUE(WaitFor([&] { return ListCount(list) == 2; }, std::chrono::seconds(3)));
+}
+
+TEST_F(TaskMenuTest, ExitEndsTheProgram)
+{
+    Choose(9);
+    EXPECT_EQ(0u, program->ExitCode(Patience).value_or(99));
+}

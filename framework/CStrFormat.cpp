@@ -16,22 +16,24 @@ static void FormatInto(wchar_t* target, uint32_t limit, const wchar_t* format, v
 
 void CStr::Format(const wchar_t* format, ...)
 {
-    // Emptied first, but the old buffer stays until the end: the string itself may be among the arguments.
-    buffer[0] = 0;
+    // Emptied first, and written only at the end: the string or a part of it may be among the arguments, and
+    // then stands for no text.
+    memset(buffer, 0, Length() * sizeof(wchar_t));
     if (!format) {
         Empty();
         return;
     }
+    wchar_t scratch[scratchSize + 1];
+    const uint32_t limit = fixedSize ? fixedSize : scratchSize;
+    wchar_t* const target = limit <= scratchSize ? scratch : NewBuffer(limit, L"CStr::Format", __LINE__);
     va_list arguments;
     va_start(arguments, format);
-    if (fixedSize) {
-        FormatInto(buffer, fixedSize, format, arguments, L"CStr::Format", __LINE__);
-    } else {
-        wchar_t scratch[scratchSize + 1];
-        FormatInto(scratch, scratchSize, format, arguments, L"CStr::Format", __LINE__);
-        Replace(NewCopy(scratch, scratchSize, L"CStr::Format", __LINE__));
-    }
+    FormatInto(target, limit, format, arguments, L"CStr::Format", __LINE__);
     va_end(arguments);
+    Set(target, limit, L"CStr::Format", __LINE__);
+    if (target != scratch) {
+        delete[] target;
+    }
 }
 
 void CStr::AppendFormat(const wchar_t* format, ...)

@@ -29,16 +29,26 @@ TEST(CStrFormatTest, ANullFormatEmpties)
     EXPECT_STREQ(L"abc", fixed);
 }
 
+// Wherever it stands among the arguments, the string itself is no text, and nothing of it is seen while it is
+// written.
 TEST(CStrFormatTest, TheStringIsEmptyBeforeItIsFormatted)
 {
-    CStr dynamic(L"abc");
-    dynamic.Format(L"[%s]", dynamic.Buffer());
-    EXPECT_STREQ(L"[]", dynamic);
-    CStr fixed(5);
-    fixed = L"abc";
-    const CStr format(L"x");
-    fixed.Format(format);
-    EXPECT_STREQ(L"x", fixed);
+    for (const uint32_t size : {0u, 8u, 300u}) {
+        CStr text(size);
+        text = L"abc";
+        text.Format(L"[%s]", text.Buffer());
+        EXPECT_STREQ(L"[]", text) << size;
+        text = L"abc";
+        text.Format(L"%s[%d%s]", text.Buffer(), 1, text.Buffer());
+        EXPECT_STREQ(L"[1]", text) << size;
+        text = L"abcdef";
+        text.Format(L"[%s]", text.Buffer() + 2);
+        EXPECT_STREQ(L"[]", text) << "a part of it, " << size;
+        text = L"abcdef";
+        text.Format(text);
+        EXPECT_STREQ(L"", text) << size;
+        EXPECT_EQ(text.FixedSize(), size);
+    }
 }
 
 TEST(CStrFormatTest, ADynamicStringTakes256Characters)

@@ -228,6 +228,8 @@ TEST(CStrTest, EveryBlockIsFreed)
         text.Append(L'c', 100);
         text.Format(L"%s", other.Buffer());
         text.Trim(L"a");
+        CStr large(300); // more than is formatted without a block
+        large.Format(L"%s", text.Buffer());
         other = "abc";
         const CStr part = text.Mid(0, 1);
         delete[] text.AllocLeft(2);

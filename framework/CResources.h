@@ -48,7 +48,8 @@ class CResources
     HBITMAP LoadBitmap(uint32_t id);
 
     // The mask is black where the picture is opaque and white where the target must show through. memory is
-    // any memory context of the caller; it holds its own bitmap again afterwards.
+    // any memory context of the caller; it holds its own bitmap again afterwards. Nothing is drawn where the
+    // picture or the mask is missing or is selected elsewhere.
     static void DrawMasked(HDC target, int x, int y, int width, int height, HDC memory, HBITMAP image,
                            HBITMAP mask);
 

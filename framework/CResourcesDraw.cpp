@@ -51,9 +51,16 @@ HBITMAP CResources::RenderImage(const SImage* image)
 void CResources::DrawMasked(HDC target, int x, int y, int width, int height, HDC memory, HBITMAP image,
                             HBITMAP mask)
 {
+    if (!image || !mask) {
+        return;
+    }
+    // Each is selected once before anything is drawn: half a drawing would leave the target in wrong colours.
+    const Selection selection(memory, mask);
+    if (!selection.Done() || !SelectObject(memory, image)) {
+        return;
+    }
     // The picture twice by exclusive-or leaves the target as it was; in between the mask blackens what it
     // covers, and there the second time shows the picture.
-    const Selection selection(memory, image);
     BitBlt(target, x, y, width, height, memory, 0, 0, SRCINVERT);
     SelectObject(memory, mask);
     BitBlt(target, x, y, width, height, memory, 0, 0, SRCAND);

@@ -110,3 +110,25 @@ TEST_F(DrawMaskedTest, DrawsInThreeSteps)
     EXPECT_TRUE((steps[1] == Step{mask.Bitmap(), SRCAND}));
     EXPECT_TRUE((steps[2] == Step{image.Bitmap(), SRCINVERT}));
 }
+
+TEST_F(DrawMaskedTest, WithoutPictureOrMaskNothingIsDrawn)
+{
+    Canvas elsewhere{2, 2}; // its bitmap cannot be selected into a second context
+    const struct
+    {
+        HBITMAP image;
+        HBITMAP mask;
+    } missing[] = {{nullptr, mask.Bitmap()},
+                   {image.Bitmap(), nullptr},
+                   {nullptr, nullptr},
+                   {elsewhere.Bitmap(), mask.Bitmap()},
+                   {image.Bitmap(), elsewhere.Bitmap()}};
+    const ImportHook hook("BitBlt", RecordStep);
+    for (const auto& each : missing) {
+        steps.clear();
+        CResources::DrawMasked(target, 0, 0, 2, 2, own, each.image, each.mask);
+        EXPECT_TRUE(steps.empty());
+        EXPECT_EQ(GetCurrentObject(own, OBJ_BITMAP), own.Bitmap());
+        SelectObject(own, own.Bitmap());
+    }
+}

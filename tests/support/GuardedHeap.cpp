@@ -62,14 +62,28 @@ void* GuardedAllocate(size_t size)
     return block;
 }
 
-void GuardedFree(void* block)
+// The header of a block in use; there is none for anything else.
+static RegionHeader* HeaderOf(const void* block)
 {
     MEMORY_BASIC_INFORMATION info;
-    if (!VirtualQuery(block, &info, sizeof(info)) || info.State != MEM_COMMIT)
+    if (!VirtualQuery(block, &info, sizeof(info)) || info.State != MEM_COMMIT) {
         Die("freed twice, or never allocated:", block);
+    }
     auto* const header = static_cast<RegionHeader*>(info.AllocationBase);
-    if (header->mark != liveMark || header->block != block)
+    if (header->mark != liveMark || header->block != block) {
         Die("not a block:", block);
+    }
+    return header;
+}
+
+size_t GuardedSize(const void* block)
+{
+    return HeaderOf(block)->size;
+}
+
+void GuardedFree(void* block)
+{
+    RegionHeader* const header = HeaderOf(block);
     const uint8_t* const end = header->block + header->size;
     const size_t slack = RoundUp(header->size ? header->size : 1, alignment) - header->size;
     for (size_t i = 0; i < slack; i++) {

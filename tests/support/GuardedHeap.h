@@ -5,5 +5,8 @@
 
 void* GuardedAllocate(size_t size);
 
+// As it was asked for.
+size_t GuardedSize(const void* block);
+
 // Ends the process when the block is none, was freed before, or was written behind its end.
 void GuardedFree(void* block);

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <malloc.h>
 #include <new>
 
 static std::atomic<size_t> liveBlocks;
@@ -48,6 +49,15 @@ static void* Allocate(size_t size)
     if (block)
         liveBlocks++;
     return block;
+}
+
+size_t BlockSize(void* block)
+{
+#ifdef QV_CHECKED
+    return GuardedSize(block);
+#else
+    return _msize(block);
+#endif
 }
 
 static void Free(void* block)

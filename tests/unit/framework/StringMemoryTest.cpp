@@ -1,28 +1,17 @@
 // How much memory strings take: exactly what their text needs.
 #include "framework/CStr.h"
+#include "tests/support/TestHeap.h"
+#include "tests/unit/framework/strings.h"
 
 #include <gtest/gtest.h>
 
-#include <malloc.h>
-
-class StringMemoryTest : public testing::Test
+// In characters, the terminator's place included.
+static size_t Places(CStr& text)
 {
-  protected:
-    void SetUp() override
-    {
-#ifdef QV_CHECKED
-        GTEST_SKIP() << "a guarded block ends at its page and has no size of its own";
-#endif
-    }
+    return BlockSize(text.Buffer()) / sizeof(wchar_t);
+}
 
-    // In characters, the terminator's place included.
-    static size_t Places(const CStr& text)
-    {
-        return _msize(const_cast<wchar_t*>(text.Buffer())) / sizeof(wchar_t);
-    }
-};
-
-TEST_F(StringMemoryTest, ADynamicStringGrowsExactly)
+TEST(StringMemoryTest, ADynamicStringGrowsExactly)
 {
     CStr text;
     EXPECT_EQ(Places(text), 1u);
@@ -36,7 +25,7 @@ TEST_F(StringMemoryTest, ADynamicStringGrowsExactly)
     EXPECT_EQ(Places(text), 3u);
 }
 
-TEST_F(StringMemoryTest, AnEmptiedDynamicStringHasAFreshBlockForTheTerminator)
+TEST(StringMemoryTest, AnEmptiedDynamicStringHasAFreshBlockForTheTerminator)
 {
     CStr text(L"some text");
     text.Empty();
@@ -46,7 +35,7 @@ TEST_F(StringMemoryTest, AnEmptiedDynamicStringHasAFreshBlockForTheTerminator)
     EXPECT_EQ(Places(text), 1u);
 }
 
-TEST_F(StringMemoryTest, AFixedStringHasItsCapacityAndATerminator)
+TEST(StringMemoryTest, AFixedStringHasItsCapacityAndATerminator)
 {
     CStr text(20);
     text = L"abc";
@@ -55,4 +44,39 @@ TEST_F(StringMemoryTest, AFixedStringHasItsCapacityAndATerminator)
     EXPECT_EQ(Places(text), 6u);
     text.Empty();
     EXPECT_EQ(Places(text), 6u);
+}
+
+TEST(StringMemoryTest, ADynamicStringShrinksExactly)
+{
+    CStr text(L"0123456789");
+    text.Delete(2, 3);
+    EXPECT_EQ(Places(text), 8u);
+    text.Delete(5, 100);
+    EXPECT_EQ(Places(text), 6u);
+    text.Shrink(1, 2);
+    EXPECT_EQ(Places(text), 3u);
+    text = L"  ab ";
+    text.Trim(L" ");
+    EXPECT_EQ(Places(text), 3u);
+    text = L"   ";
+    text.Trim(L" ");
+    EXPECT_EQ(Places(text), 1u);
+    text = L"abcdef";
+    text.Assign(L"xyz", 2);
+    EXPECT_EQ(Places(text), 3u);
+}
+
+TEST(StringMemoryTest, FormattedTextAndResourcesTakeWhatTheyNeed)
+{
+    CStr text(L"some text");
+    text.Format(L"%s", L"abcdef");
+    EXPECT_EQ(Places(text), 7u);
+    text.Format(L"%d", 5);
+    EXPECT_EQ(Places(text), 2u);
+    text.AppendFormat(L"%d", 67);
+    EXPECT_EQ(Places(text), 4u);
+    text.LoadStringW(IDS_SHORT);
+    EXPECT_EQ(Places(text), 6u);
+    text.Format(nullptr);
+    EXPECT_EQ(Places(text), 1u);
 }

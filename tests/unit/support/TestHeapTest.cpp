@@ -19,6 +19,15 @@ TEST(TestHeapTest, CountsLiveBlocks)
     EXPECT_EQ(LiveBlocks(), before);
 }
 
+TEST(TestHeapTest, KnowsTheSizeOfABlock)
+{
+    for (const size_t size : {1u, 15u, 16u, 4096u}) {
+        block = new char[size];
+        EXPECT_EQ(BlockSize(block), size);
+        delete[] block;
+    }
+}
+
 TEST(TestHeapTest, FailsAfterSoManySuccesses)
 {
     char* first = nullptr;

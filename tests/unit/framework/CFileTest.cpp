@@ -208,4 +208,24 @@ TEST_F(CFileTest, AFailingSeekIsFatalInBothModes)
     file.SeekBegin(0x7FFFFFFF); // behind the end is a legal place
     EXPECT_FALSE(file.ReadFixed(&c, 1));
     EXPECT_FATAL(file.SeekBegin(0x80000000), L"CFile::SeekBegin", L"Error");
+    ASSERT_TRUE(fatal.Open(path.c_str(), true, false));
+    EXPECT_FATAL(fatal.SeekBegin(0x80000000), L"CFile::SeekBegin", L"Error");
+}
+
+static DWORD error;
+
+static DWORD WINAPI AnswerWithTheHighestPlace(HANDLE, LONG, LONG*, DWORD)
+{
+    SetLastError(error);
+    return INVALID_SET_FILE_POINTER;
+}
+
+TEST_F(CFileTest, OnlyTheLastErrorTellsAFailingSeekFromTheHighestPlace)
+{
+    ASSERT_TRUE(file.Open(path.c_str(), true, false));
+    const ImportHook hook("SetFilePointer", AnswerWithTheHighestPlace);
+    error = NO_ERROR;
+    file.SeekBegin(1);
+    error = ERROR_INVALID_HANDLE;
+    EXPECT_FATAL(file.SeekBegin(1), L"CFile::SeekBegin", L"Error");
 }

@@ -3,9 +3,9 @@
 
 #include "resources/ids.h"
 
-int TestApp::Start()
+int TestApp::Start(int showCommand)
 {
-    return Run(IDS_TITLE, IDI_PROGRAM, IDA_PROGRAM, GetModuleHandleW(nullptr), nullptr, L"", SW_SHOWNORMAL);
+    return Run(IDS_TITLE, IDI_PROGRAM, IDA_PROGRAM, GetModuleHandleW(nullptr), nullptr, L"", showCommand);
 }
 
 bool TestApp::OnCreate()

@@ -24,7 +24,7 @@ class TestApp : public CVireoApp
     explicit TestApp(std::function<void()> test) : body(std::move(test)) {}
 
     // The program's own start: its title, icon and accelerators.
-    int Start();
+    int Start(int showCommand = SW_SHOWNORMAL);
 
     bool OnCreate() override;
     void OnDestroy() override;

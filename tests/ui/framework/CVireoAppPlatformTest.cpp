@@ -160,14 +160,14 @@ TEST_F(CVireoAppPlatformTest, TheArraysStartWithEightPlacesAndNoEntry)
     ASSERT_NE(app.dialogs, nullptr);
     EXPECT_EQ(app.views->Count(), 0U);
     EXPECT_EQ(app.dialogs->Count(), 0U);
-    // The ninth entry is the first that needs more memory.
-    const AllocationFailure failure(0);
-    for (int i = 0; i < 8; i++) {
+    EXPECT_EQ(app.views->Capacity(), 8U);
+    EXPECT_EQ(app.dialogs->Capacity(), 8U);
+    for (int i = 0; i < 9; i++) {
         app.views->Append(nullptr);
         app.dialogs->Append(nullptr);
     }
-    EXPECT_EQ(app.views->Count(), 8U);
-    EXPECT_EQ(app.dialogs->Count(), 8U);
+    EXPECT_EQ(app.views->Capacity(), 16U);
+    EXPECT_EQ(app.dialogs->Capacity(), 16U);
 }
 
 TEST_F(CVireoAppPlatformTest, TheApplicationIsTheCurrentOneWhileItExists)

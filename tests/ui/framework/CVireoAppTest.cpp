@@ -213,6 +213,23 @@ TEST_F(CVireoAppTest, TheFirstViewIsActivatedUnlessAnotherIsAskedFor)
     }
 }
 
+TEST_F(CVireoAppTest, TheWindowIsShownAsTheProgramIsTold)
+{
+    for (const int command : {SW_SHOWNORMAL, SW_HIDE, SW_SHOWNOACTIVATE}) {
+        std::vector<int> shown;
+        const SPY(ShowWindow) show([&](HWND window, int how) {
+            if (NameOf(window) == "main") {
+                shown.push_back(how);
+            }
+            return show.Real(window, how);
+        });
+        TestApp app([] {});
+        app.Start(command);
+        EXPECT_EQ(shown, std::vector<int>{command});
+        ForgetClasses();
+    }
+}
+
 TEST_F(CVireoAppTest, MinimisingAtTheStartFollowsTheShowing)
 {
     const SPY(ShowWindow) show([&](HWND window, int command) {

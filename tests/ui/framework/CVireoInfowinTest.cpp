@@ -111,6 +111,62 @@ TEST_F(CVireoInfowinTest, ItIsAsLargeAsItsTextNeeds)
     });
 }
 
+TEST_F(CVireoInfowinTest, ItsTextHasSeventyPercentOfTheMainWindowRoundedHalfUp)
+{
+    WithInfo([](TestApp& app, CVireoInfowin& info) {
+        const struct
+        {
+            int size;
+            int usable;
+        } cases[] = {{200, 140}, {201, 141}, {202, 141}, {203, 142}, {204, 143},
+                     {205, 144}, {206, 144}, {207, 145}, {208, 146}, {209, 146}};
+        const Measures of = Measure(L"", {200, 200});
+        for (const auto& each : cases) {
+            MoveWindow(app.MainWindow(), 0, 30, each.size, each.size, FALSE);
+            RECT room = {};
+            const SPY(DrawTextW)
+                draw([&](HDC target, const wchar_t* text, int length, RECT* rect, UINT format) {
+                    if (format & DT_CALCRECT) {
+                        room = *rect;
+                        EXPECT_EQ(format, static_cast<UINT>(DT_CALCRECT | DT_WORDBREAK));
+                    }
+                    return draw.Real(target, text, length, rect, format);
+                });
+            info.Show(longText, 0, 0, 0);
+            EXPECT_EQ(room,
+                      (RECT{of.digit, of.lineGap / 2, each.usable - of.digit, each.usable - of.lineGap / 2}));
+        }
+    });
+}
+
+TEST_F(CVireoInfowinTest, ItsTextIsDrawnWhereItWasMeasuredInTheSystemFont)
+{
+    WithInfo([](TestApp&, CVireoInfowin& info) {
+        for (const wchar_t* text : {L"Saved", longText}) {
+            RECT measured = {};
+            std::vector<RECT> drawn;
+            const SPY(DrawTextW)
+                draw([&](HDC target, const wchar_t* shown, int length, RECT* rect, UINT format) {
+                    EXPECT_EQ(GetCurrentObject(target, OBJ_FONT), GetStockObject(SYSTEM_FONT));
+                    const bool measuring = (format & DT_CALCRECT) != 0;
+                    if (!measuring) {
+                        drawn.push_back(*rect);
+                    }
+                    const int height = draw.Real(target, shown, length, rect, format);
+                    if (measuring) {
+                        measured = *rect;
+                    }
+                    return height;
+                });
+            info.Show(text, 0, 0, 0);
+            ASSERT_FALSE(drawn.empty());
+            for (const RECT& each : drawn) {
+                EXPECT_EQ(each, measured);
+            }
+        }
+    });
+}
+
 TEST_F(CVireoInfowinTest, ItIsPlacedByItsBitsWithoutTheMainWindowsLeftEdge)
 {
     WithInfo([](TestApp& app, CVireoInfowin& info) {

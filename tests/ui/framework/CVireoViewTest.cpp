@@ -122,10 +122,23 @@ TEST_F(CVireoViewTest, ItKeepsItsNumbersAndLoadsItsAccelerators)
 
 TEST_F(CVireoViewTest, DestructionIsAbsorbed)
 {
-    WithView([](TestView& view) {
+    InApp([](TestApp&) {
+        class Asked : public TestView
+        {
+          public:
+            std::vector<UINT> messages;
+            LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+            {
+                messages.push_back(message);
+                return message == WM_DESTROY ? 1 : TestView::WindowProc(message, wParam, lParam);
+            }
+        } view;
+        view.Create(7, 0, 0);
+        view.messages.clear();
         EXPECT_EQ(SendMessageW(view.Window(), WM_DESTROY, 0, 0), 0);
-        EXPECT_TRUE(TakeEvents().empty());
+        EXPECT_TRUE(view.messages.empty());
         EXPECT_TRUE(IsWindow(view.Window()));
+        DestroyWindow(view.Window());
     });
 }
 

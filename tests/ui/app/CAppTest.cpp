@@ -55,6 +55,19 @@ TEST_F(CAppTest, ACommandForAPageShowsItAndBringsTheProgramForward)
     });
 }
 
+TEST_F(CAppTest, TheMainWindowsFocusIsItsPages)
+{
+    InProgram([&](ProgramApp& app) {
+        for (int32_t page = 1; page <= 4; page++) {
+            app.ActivateView(page);
+            SetFocus(nullptr);
+            EXPECT_EQ(GetFocus(), nullptr);
+            SetFocus(app.MainWindow());
+            EXPECT_EQ(GetFocus(), GetDlgItem(app.ActiveView()->Window(), 110)) << page;
+        }
+    });
+}
+
 TEST_F(CAppTest, CommandsItDoesNotKnowAreIgnored)
 {
     AddTask(L"Task");

@@ -167,6 +167,16 @@ TEST_F(CListPageTest, ActivationFillsThePageSelectsItsFirstRowAndFocusesTheList)
     });
 }
 
+TEST_F(CListPageTest, ThePagesFocusIsItsLists)
+{
+    WithPage([](TestApp& app, Page& page) {
+        SetFocus(app.MainWindow());
+        EXPECT_EQ(GetFocus(), app.MainWindow());
+        SetFocus(page.Window());
+        EXPECT_EQ(GetFocus(), page.list.Window());
+    });
+}
+
 TEST_F(CListPageTest, ThePageDrawsItsTitleInBold)
 {
     WithPage([](TestApp&, Page& page) {

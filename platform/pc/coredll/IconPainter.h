@@ -18,5 +18,6 @@ enum FixedIcon
     FixedIconCount
 };
 
-// The caller destroys the icon. Null when the system is out of GDI objects.
-HICON PaintFixedIcon(FixedIcon icon, int size);
+// All of them side by side in one bitmap of 32 bits a pixel with alpha, which the caller deletes. Null when
+// the system is out of GDI objects.
+HBITMAP PaintFixedIcons(int size);

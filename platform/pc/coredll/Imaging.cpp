@@ -1,18 +1,34 @@
 // The imaging factory: pictures from memory.
 #include "platform/pc/coredll/Imaging.h"
 
+#include "platform/pc/coredll/Com.h"
 #include "platform/pc/coredll/ComObject.h"
 #include "platform/pc/coredll/Image.h"
 
 #include <wincodec.h>
 
-namespace {
-
+// The program makes a factory at its start and often no picture until its end, so the PC's component is only
+// loaded for the first one.
 class Factory final : public ComObject<Factory, IImagingFactory, IID_IImagingFactory>
 {
+    IWICImagingFactory* codecs = nullptr; // released at the end
+
+    HRESULT LoadCodecs()
+    {
+        if (codecs) {
+            return S_OK;
+        }
+        return CreateComObject(CLSID_WICImagingFactory, IID_IWICImagingFactory,
+                               reinterpret_cast<void**>(&codecs));
+    }
+
   public:
-    explicit Factory(IWICImagingFactory* codecs) : m_codecs(codecs) {}
-    ~Factory() { m_codecs->Release(); }
+    ~Factory()
+    {
+        if (codecs) {
+            codecs->Release();
+        }
+    }
 
     HRESULT STDMETHODCALLTYPE CreateImageFromStream(void*, IImage**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE CreateImageFromFile(const wchar_t*, IImage**) override { return E_NOTIMPL; }
@@ -20,29 +36,26 @@ class Factory final : public ComObject<Factory, IImagingFactory, IID_IImagingFac
     HRESULT STDMETHODCALLTYPE CreateImageFromBuffer(const void* buffer, UINT size,
                                                     BufferDisposalFlag disposal, IImage** image) override
     {
-        if (!buffer || !image)
+        if (!buffer || !image) {
             return E_INVALIDARG;
-        return CreateImage(m_codecs, buffer, size, disposal, image);
+        }
+        *image = nullptr;
+        const HRESULT loaded = LoadCodecs();
+        return FAILED(loaded) ? loaded : CreateImage(codecs, buffer, size, disposal, image);
     }
-
-  private:
-    IWICImagingFactory* m_codecs; // released at the end
 };
-
-} // namespace
 
 HRESULT CreateImagingFactory(const IID& interfaceId, void** object)
 {
-    if (!object)
+    if (!object) {
         return E_POINTER;
+    }
     *object = nullptr;
-    IWICImagingFactory* codecs = nullptr;
-    HRESULT result = CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                      IID_IWICImagingFactory, reinterpret_cast<void**>(&codecs));
-    if (FAILED(result))
-        return result;
-    auto* factory = new Factory(codecs);
-    result = factory->QueryInterface(interfaceId, object);
+    if (!HasStartedCom()) {
+        return CO_E_NOTINITIALIZED;
+    }
+    auto* factory = new Factory;
+    const HRESULT result = factory->QueryInterface(interfaceId, object);
     factory->Release();
     return result;
 }

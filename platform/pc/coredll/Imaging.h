@@ -3,5 +3,5 @@
 
 #include <unknwn.h>
 
-// Fails when the PC has no imaging component or COM is not started; *object is null then.
+// Fails when COM is not started; *object is null then. The PC's component is loaded by the first picture.
 HRESULT CreateImagingFactory(const IID& interfaceId, void** object);

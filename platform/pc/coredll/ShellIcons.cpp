@@ -4,124 +4,129 @@
 #include "platform/pc/common/Screen.h"
 #include "platform/pc/coredll/IconPainter.h"
 #include "platform/pc/coredll/ShortcutTarget.h"
+#include "platform/pc/coredll/SystemFunction.h"
 
 #include <commctrl.h>
 #include <shellapi.h>
-#include <shlwapi.h>
 
 #include <unordered_map>
 
 #undef SHGetFileInfo
 
-namespace {
+static constexpr size_t mostPrograms = 1000; // a bound on what a program can make the list hold
+static constexpr int noIcon = -1;
 
-constexpr size_t MostPrograms = 1000; // a bound on what a program can make the list hold
-constexpr int NoIcon = -1;
-
-std::wstring Folded(const wchar_t* path)
+static std::wstring Folded(const wchar_t* path)
 {
     std::wstring folded(path);
     CharLowerW(folded.data());
     return folded;
 }
 
+static bool IsDrive(const wchar_t* path)
+{
+    return lstrlenW(path) == 3 && path[1] == L':' && path[2] == L'\\';
+}
+
+static bool HasExtension(const wchar_t* path, const wchar_t* extension)
+{
+    const wchar_t* dot = wcsrchr(path, L'.');
+    return dot && lstrcmpiW(dot, extension) == 0;
+}
+
 class IconList
 {
+    int size; // pixels, both ways
+    HIMAGELIST list;
+    std::unordered_map<std::wstring, int> indexes; // by path, lower case
+
   public:
-    IconList() : m_size(handheld::Scaled(16))
+    IconList() : size(handheld::Scaled(16))
     {
-        m_list = ImageList_Create(m_size, m_size, ILC_COLOR32 | ILC_MASK, FixedIconCount, 16);
-        for (int icon = 0; icon < FixedIconCount; ++icon)
-            Add(PaintFixedIcon(static_cast<FixedIcon>(icon), m_size));
+        list = ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, FixedIconCount, 16);
+        const HBITMAP fixedIcons = PaintFixedIcons(size);
+        ImageList_Add(list, fixedIcons, nullptr); // at once: each call costs the same, however many it adds
+        DeleteObject(fixedIcons);
     }
     IconList(const IconList&) = delete;
     IconList& operator=(const IconList&) = delete;
 
-    HIMAGELIST Handle() const { return m_list; }
+    HIMAGELIST Handle() const { return list; }
 
-    // NoIcon for a path that names nothing.
+    // noIcon for a path that names nothing.
     int IndexOf(const wchar_t* path)
     {
-        if (lstrcmpW(path, L"\\") == 0)
+        if (lstrcmpW(path, L"\\") == 0) {
             return IconFolder;
+        }
         const std::wstring key = Folded(path);
-        if (const auto known = m_indexes.find(key); known != m_indexes.end())
+        if (const auto known = indexes.find(key); known != indexes.end()) {
             return known->second;
+        }
         const DWORD attributes = GetFileAttributesW(path);
-        if (attributes == INVALID_FILE_ATTRIBUTES)
-            return NoIcon;
+        if (attributes == INVALID_FILE_ATTRIBUTES) {
+            return noIcon;
+        }
         const int index = Find(path, attributes);
-        if (m_indexes.size() < MostPrograms)
-            m_indexes.emplace(key, index);
+        if (indexes.size() < mostPrograms) {
+            indexes.emplace(key, index);
+        }
         return index;
     }
 
   private:
-    // Destroys the icon.
-    int Add(HICON icon)
-    {
-        const int index = icon ? ImageList_ReplaceIcon(m_list, -1, icon) : NoIcon;
-        if (icon)
-            DestroyIcon(icon);
-        return index;
-    }
-
     int Find(const wchar_t* path, DWORD attributes)
     {
-        if (attributes & FILE_ATTRIBUTE_DIRECTORY)
-            return PathIsRootW(path) ? IconDrive : IconFolder;
-        const wchar_t* extension = PathFindExtensionW(path);
-        if (lstrcmpiW(extension, L".lnk") == 0) {
-            const std::wstring target = ShortcutTarget(path);
-            const int index = target.empty() || IsShortcut(target) ? NoIcon : IndexOf(target.c_str());
-            return index == NoIcon ? static_cast<int>(IconShortcut) : index;
+        if (attributes & FILE_ATTRIBUTE_DIRECTORY) {
+            return IsDrive(path) ? IconDrive : IconFolder;
         }
-        if (lstrcmpiW(extension, L".exe") == 0)
-            return OwnIcon(path);
-        return IconDocument;
-    }
-
-    // A shortcut to a shortcut could lead round in a circle.
-    static bool IsShortcut(const std::wstring& path)
-    {
-        return lstrcmpiW(PathFindExtensionW(path.c_str()), L".lnk") == 0;
+        if (HasExtension(path, L".lnk")) {
+            const std::wstring target = ShortcutTarget(path);
+            // A shortcut to a shortcut could lead round in a circle.
+            const bool leadsOn = !target.empty() && !HasExtension(target.c_str(), L".lnk");
+            const int index = leadsOn ? IndexOf(target.c_str()) : noIcon;
+            return index == noIcon ? static_cast<int>(IconShortcut) : index;
+        }
+        return HasExtension(path, L".exe") ? OwnIcon(path) : static_cast<int>(IconDocument);
     }
 
     int OwnIcon(const wchar_t* path)
     {
-        if (m_indexes.size() >= MostPrograms)
+        if (indexes.size() >= mostPrograms) {
             return IconProgram;
+        }
         HICON icon = nullptr;
         UINT id = 0;
-        const UINT found = PrivateExtractIconsW(path, 0, m_size, m_size, &icon, &id, 1, 0);
-        const int index = found == 1 && icon ? Add(icon) : NoIcon;
-        return index == NoIcon ? static_cast<int>(IconProgram) : index;
+        if (PrivateExtractIconsW(path, 0, size, size, &icon, &id, 1, 0) != 1 || !icon) {
+            return IconProgram;
+        }
+        const int index = ImageList_ReplaceIcon(list, -1, icon);
+        DestroyIcon(icon);
+        return index == -1 ? static_cast<int>(IconProgram) : index;
     }
-
-    int m_size; // pixels, both ways
-    HIMAGELIST m_list;
-    std::unordered_map<std::wstring, int> m_indexes; // by path, lower case
 };
 
 // Lives as long as the process: the program keeps the list's handle.
-IconList& Icons()
+static IconList& Icons()
 {
     static IconList* const icons = new IconList;
     return *icons;
 }
 
-} // namespace
-
 extern "C" DWORD_PTR WINAPI ce_SHGetFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info,
                                              UINT infoSize, UINT flags)
 {
-    if (flags != (SHGFI_SYSICONINDEX | SHGFI_SMALLICON))
-        return SHGetFileInfoW(path, attributes, info, infoSize, flags);
-    if (!path || !*path || !info)
+    if (flags != (SHGFI_SYSICONINDEX | SHGFI_SMALLICON)) {
+        static auto* const ask = SystemFunction<decltype(SHGetFileInfoW)>(L"shell32.dll", "SHGetFileInfoW");
+        return ask ? ask(path, attributes, info, infoSize, flags) : 0;
+    }
+    if (!path || !*path || !info) {
         return 0;
+    }
     const int index = Icons().IndexOf(path);
-    if (index == NoIcon)
+    if (index == noIcon) {
         return 0;
+    }
     info->hIcon = nullptr;
     info->iIcon = index;
     return reinterpret_cast<DWORD_PTR>(Icons().Handle());

@@ -2,6 +2,7 @@
 #include "platform/pc/coredll/ShortcutTarget.h"
 
 #include "platform/pc/common/ShortcutText.h"
+#include "platform/pc/coredll/Com.h"
 
 #include <windows.h>
 
@@ -31,11 +32,10 @@ std::wstring TargetFromText(const wchar_t* shortcut)
 // The shell's link object needs COM, which the caller's thread may not have started.
 std::wstring TargetFromShell(const wchar_t* shortcut)
 {
-    const HRESULT started = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const HRESULT started = ce_CoInitializeEx(nullptr, 0);
     std::wstring target;
     IShellLinkW* link = nullptr;
-    if (SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                                   reinterpret_cast<void**>(&link)))) {
+    if (SUCCEEDED(CreateComObject(CLSID_ShellLink, IID_IShellLinkW, reinterpret_cast<void**>(&link)))) {
         IPersistFile* file = nullptr;
         if (SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file)))) {
             wchar_t path[MAX_PATH] = {};
@@ -46,8 +46,9 @@ std::wstring TargetFromShell(const wchar_t* shortcut)
         }
         link->Release();
     }
-    if (SUCCEEDED(started))
-        CoUninitialize();
+    if (SUCCEEDED(started)) {
+        ce_CoUninitialize();
+    }
     return target;
 }
 

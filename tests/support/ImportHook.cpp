@@ -1,4 +1,4 @@
-// Replaces a function that this executable imports.
+// Replaces a function that an executable or a library imports.
 #include "tests/support/ImportHook.h"
 
 #include <windows.h>
@@ -7,26 +7,38 @@
 #include <cstdlib>
 #include <cstring>
 
-template <typename T>
-static T* AtRva(DWORD rva)
+// What lies in a loaded file, at distances from its beginning.
+class LoadedFile
 {
-    static auto* const image = reinterpret_cast<BYTE*>(GetModuleHandleW(nullptr));
-    return reinterpret_cast<T*>(image + rva);
-}
+    BYTE* image;
 
-// Calls visit(library, lookup entry, slot) for every import of the executable.
-template <typename Visit>
-static void ForEachImport(Visit visit)
-{
-    const auto* headers = AtRva<IMAGE_NT_HEADERS>(static_cast<DWORD>(AtRva<IMAGE_DOS_HEADER>(0)->e_lfanew));
-    const IMAGE_DATA_DIRECTORY& imports = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    for (auto* library = AtRva<IMAGE_IMPORT_DESCRIPTOR>(imports.VirtualAddress); library->Name; library++) {
-        auto* lookup = AtRva<IMAGE_THUNK_DATA>(library->OriginalFirstThunk);
-        auto* slot = AtRva<void*>(library->FirstThunk);
-        for (; lookup->u1.AddressOfData; lookup++, slot++)
-            visit(AtRva<const char>(library->Name), *lookup, slot);
+  public:
+    explicit LoadedFile(HMODULE module)
+        : image(reinterpret_cast<BYTE*>(module ? module : GetModuleHandleW(nullptr)))
+    {}
+
+    template <typename T>
+    T* At(ULONGLONG distance) const
+    {
+        return reinterpret_cast<T*>(image + distance);
     }
-}
+
+    // Calls visit(library, lookup entry, slot) for every import.
+    template <typename Visit>
+    void ForEachImport(Visit visit) const
+    {
+        const auto* headers = At<IMAGE_NT_HEADERS>(static_cast<DWORD>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+        const IMAGE_DATA_DIRECTORY& imports =
+            headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+        for (auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(imports.VirtualAddress); library->Name; library++) {
+            auto* lookup = At<IMAGE_THUNK_DATA>(library->OriginalFirstThunk);
+            auto* slot = At<void*>(library->FirstThunk);
+            for (; lookup->u1.AddressOfData; lookup++, slot++) {
+                visit(At<const char>(library->Name), *lookup, slot);
+            }
+        }
+    }
+};
 
 static void Write(void** slot, void* value)
 {
@@ -59,19 +71,22 @@ void ImportHook::RequireFound(const char* what) const
 
 void ImportHook::HookName(const char* function)
 {
-    ForEachImport([&](const char*, const IMAGE_THUNK_DATA& lookup, void** slot) {
-        if (IMAGE_SNAP_BY_ORDINAL(lookup.u1.Ordinal))
+    const LoadedFile file(importer);
+    file.ForEachImport([&](const char*, const IMAGE_THUNK_DATA& lookup, void** slot) {
+        if (IMAGE_SNAP_BY_ORDINAL(lookup.u1.Ordinal)) {
             return;
-        const auto* entry = AtRva<IMAGE_IMPORT_BY_NAME>(static_cast<DWORD>(lookup.u1.AddressOfData));
-        if (strcmp(reinterpret_cast<const char*>(entry->Name), function) == 0)
+        }
+        const auto* entry = file.At<IMAGE_IMPORT_BY_NAME>(lookup.u1.AddressOfData);
+        if (strcmp(reinterpret_cast<const char*>(entry->Name), function) == 0) {
             Take(slot);
+        }
     });
     RequireFound(function);
 }
 
 void ImportHook::HookOrdinal(const char* library, uint16_t ordinal)
 {
-    ForEachImport([&](const char* from, const IMAGE_THUNK_DATA& lookup, void** slot) {
+    LoadedFile(importer).ForEachImport([&](const char* from, const IMAGE_THUNK_DATA& lookup, void** slot) {
         if (IMAGE_SNAP_BY_ORDINAL(lookup.u1.Ordinal) && IMAGE_ORDINAL(lookup.u1.Ordinal) == ordinal &&
             _stricmp(from, library) == 0)
             Take(slot);

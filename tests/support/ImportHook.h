@@ -1,5 +1,7 @@
-// Replaces a function that this executable imports, for as long as the object lives.
+// Replaces a function that this executable, or a library, imports, for as long as the object lives.
 #pragma once
+
+#include <windows.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +14,7 @@ class ImportHook
 {
   private:
     static const size_t mostSlots = 4;
+    HMODULE importer = nullptr; // null: this executable
     void** slots[mostSlots];
     size_t slotCount = 0;
     void* original = nullptr;
@@ -20,6 +23,14 @@ class ImportHook
   public:
     template <typename Function>
     ImportHook(const char* function, Function* with) : replacement(reinterpret_cast<void*>(with))
+    {
+        HookName(function);
+    }
+
+    // For what a loaded library calls itself.
+    template <typename Function>
+    ImportHook(HMODULE library, const char* function, Function* with)
+        : importer(library), replacement(reinterpret_cast<void*>(with))
     {
         HookName(function);
     }

@@ -94,6 +94,20 @@ class ForeignHeap final : public HeapSnapshot
     SIZE_T m_size;
 };
 
+// Only a profile with figures of its own makes the program's path worth its questions, for every task of a
+// refresh.
+const handheld::HeapScript* FindScript(HANDLE process)
+{
+    const handheld::Profile& profile = handheld::ActiveProfile();
+    if (profile.heapScripts.empty()) {
+        return nullptr;
+    }
+    wchar_t path[MAX_PATH] = {};
+    DWORD length = MAX_PATH;
+    QueryFullProcessImageNameW(process, 0, path, &length);
+    return profile.FindHeapScript(path);
+}
+
 } // namespace
 
 HeapSnapshot* TakeHeapSnapshot(DWORD processId)
@@ -104,11 +118,8 @@ HeapSnapshot* TakeHeapSnapshot(DWORD processId)
     if (!process)
         return nullptr;
     HeapSnapshot* snapshot = nullptr;
-    wchar_t path[MAX_PATH] = {};
-    DWORD length = MAX_PATH;
-    QueryFullProcessImageNameW(process, 0, path, &length);
     PROCESS_MEMORY_COUNTERS memory = {};
-    if (const handheld::HeapScript* script = handheld::ActiveProfile().FindHeapScript(path))
+    if (const handheld::HeapScript* script = FindScript(process))
         snapshot = new ScriptedHeaps(processId, *script);
     else if (processId == GetCurrentProcessId())
         snapshot = new OwnHeaps;

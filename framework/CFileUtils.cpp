@@ -8,7 +8,6 @@ void CFileUtils::MakeAppFolderPath(CStr& out)
     Assert(out.FixedSize() != 0, ErrorInvalidValue, L"CFileUtils::MakeAppFolderPath", __LINE__);
     out.Empty();
     GetModuleFileNameW(nullptr, out.Buffer(), out.FixedSize());
-    *out.At(out.FixedSize()) = 0; // a path of exactly the buffer's size may come without a terminator
     const int backslash = out.ReverseFind(L'\\');
     Assert(backslash >= 0, ErrorNotFound, L"CFileUtils::MakeAppFolderPath", __LINE__);
     *out.At(static_cast<uint32_t>(backslash) + 1) = 0;

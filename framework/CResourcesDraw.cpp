@@ -51,10 +51,8 @@ HBITMAP CResources::RenderImage(const SImage* image)
 void CResources::DrawMasked(HDC target, int x, int y, int width, int height, HDC memory, HBITMAP image,
                             HBITMAP mask)
 {
-    if (!image || !mask) {
-        return;
-    }
-    // Each is selected once before anything is drawn: half a drawing would leave the target in wrong colours.
+    // A missing one cannot be selected. Both are, before anything is drawn: half a drawing would leave the
+    // target in wrong colours.
     const Selection selection(memory, mask);
     if (!selection.Done() || !SelectObject(memory, image)) {
         return;

@@ -82,6 +82,16 @@ TEST_F(CVireoAppTest, ASecondInstanceLeavesWithZeroBeforeItMakesAClass)
     EXPECT_TRUE(TakeEvents().empty());
 }
 
+TEST_F(CVireoAppTest, TheWindowOfAnEarlierInstanceIsNeverItsOwn)
+{
+    const SPY(FindWindowW) find([](const wchar_t*, const wchar_t*) { return GetDesktopWindow(); });
+    registerClass.instead = [](const WNDCLASSW*) -> ATOM { return 0; };
+    TestApp app;
+    EXPECT_EQ(app.Start(), 0);
+    EXPECT_EQ(app.earlierInstance, GetDesktopWindow());
+    EXPECT_EQ(app.MainWindow(), nullptr);
+}
+
 TEST_F(CVireoAppTest, TheWindowIsCreatedWithAnEmptyMenuBarAndAFreshActivationRecord)
 {
     const SPY(SHCreateMenuBar) bar;
@@ -196,17 +206,18 @@ TEST_F(CVireoAppTest, WithoutViewsTheWindowIsShownAndTheLoopRuns)
 
 TEST_F(CVireoAppTest, TheFirstViewIsActivatedUnlessAnotherIsAskedFor)
 {
-    for (const int32_t asked : {-1, 2}) {
+    for (const int32_t asked : {-1, 2, 0}) {
         TestApp app;
         app.initialViewId = asked;
         app.create = [] {
             TestView::Add(7);
             TestView::Add(2);
+            TestView::Add(0);
             return true;
         };
         app.body = [&] {
             ASSERT_NE(app.ActiveView(), nullptr);
-            EXPECT_EQ(app.ActiveView()->Id(), asked == -1 ? 7 : 2);
+            EXPECT_EQ(app.ActiveView()->Id(), asked == -1 ? 7 : asked);
         };
         app.Start();
         ForgetClasses();

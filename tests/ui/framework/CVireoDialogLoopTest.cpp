@@ -186,6 +186,36 @@ TEST_F(CVireoDialogLoopTest, AFailingQueueEndsTheDialogWithZero)
     });
 }
 
+TEST_F(CVireoDialogLoopTest, ADialogThatIsStartedAgainHasForgottenItsLastResult)
+{
+    InApp([](TestApp&) {
+        TestDialog dialog("dialog");
+        dialog.onInit = [&] { dialog.End(12); };
+        EXPECT_EQ(dialog.Start(), 12);
+        dialog.onInit = nullptr;
+        dialog.body = [&] { DestroyWindow(dialog.window); };
+        EXPECT_EQ(dialog.Start(), 0);
+    });
+}
+
+TEST_F(CVireoDialogLoopTest, TheMainWindowIsEnabledBeforeTheDialogsWindowGoes)
+{
+    InApp([](TestApp& app) {
+        TestDialog dialog("dialog");
+        bool enabled = false;
+        const SPY(DestroyWindow) destroy([&](HWND window) {
+            if (window == dialog.window) {
+                enabled = IsWindowEnabled(app.MainWindow()) != FALSE;
+            }
+            return destroy.Real(window);
+        });
+        dialog.onInit = [&] { dialog.End(1); };
+        dialog.Start();
+        EXPECT_TRUE(enabled) << "the system would activate another program's window";
+        EXPECT_EQ(GetActiveWindow(), app.MainWindow());
+    });
+}
+
 TEST_F(CVireoDialogLoopTest, ADialogWhoseWindowGoesEndsWithZero)
 {
     InApp([](TestApp& app) {

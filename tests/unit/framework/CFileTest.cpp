@@ -115,6 +115,20 @@ TEST_F(CFileTest, AFailingSizeIsFatalInBothModes)
     EXPECT_FATAL(fatal.Size(), L"CFile::Size", L"Error");
 }
 
+static DWORD WINAPI MoreThanFourGigabytes(HANDLE, DWORD* high)
+{
+    *high = 1;
+    return 5;
+}
+
+TEST_F(CFileTest, AFileOfMoreThanFourGigabytesCanHoldWhatItsLowerHalfCannot)
+{
+    ASSERT_TRUE(file.Open(path.c_str(), true, false));
+    const ImportHook hook("GetFileSize", MoreThanFourGigabytes);
+    EXPECT_TRUE(file.CanHold(6, 1));
+    EXPECT_TRUE(file.CanHold(0xFFFFFFFF, 0xFFFFFFFF));
+}
+
 TEST_F(CFileTest, CanHoldComparesWithoutOverflow)
 {
     ASSERT_TRUE(file.Open(path.c_str(), true, false));

@@ -54,7 +54,9 @@ class CResourcesImageTest : public testing::Test
 
     void ExpectNoImage(uint32_t id, uint32_t code)
     {
+        const size_t before = LiveBlocks();
         EXPECT_EQ(resources->LoadImage(id), nullptr);
+        EXPECT_EQ(LiveBlocks(), before);
         EXPECT_EQ(CResources::LastError().code, code);
         EXPECT_EQ(CResources::LastError().argument, id);
         EXPECT_EQ(localBlocks, 0);

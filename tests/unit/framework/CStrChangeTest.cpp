@@ -101,6 +101,9 @@ TEST(CStrChangeTest, AFixedStringIsInsertedIntoUpToItsCapacity)
     EXPECT_STREQ(L"axyzbc", text);
     EXPECT_EQ(text.Buffer(), before);
     EXPECT_FATAL(text.Insert(0, L"1"), L"CStr::Insert", L"Buffer is too small");
+    text = L"ab";
+    text.Insert(1, L"x");
+    EXPECT_STREQ(L"axb", text) << "what was behind the text stays behind it";
 }
 
 TEST(CStrChangeTest, AStringCanBeInsertedIntoItself)

@@ -161,6 +161,28 @@ TEST_F(CVireoRegistryTest, AMissingTextLeavesTheString)
     EXPECT_EQ(text.FixedSize(), 10u);
 }
 
+// Its size can still be asked for, its text cannot.
+static LONG WINAPI AnswerForTheSizeOnly(HKEY, const wchar_t*, DWORD*, DWORD* type, BYTE* data, DWORD* size)
+{
+    if (data) {
+        return ERROR_FILE_NOT_FOUND;
+    }
+    *type = REG_SZ;
+    *size = 8;
+    return ERROR_SUCCESS;
+}
+
+TEST_F(CVireoRegistryTest, ATextThatGoesWhileItIsReadLeavesTheString)
+{
+    Open();
+    const ImportHook hook("RegQueryValueExW", AnswerForTheSizeOnly);
+    CStr text(10);
+    text = L"before";
+    EXPECT_FALSE(registry.ReadString(L"any", text));
+    EXPECT_STREQ(L"before", text);
+    EXPECT_EQ(text.FixedSize(), 10u);
+}
+
 TEST_F(CVireoRegistryTest, ATextOfAnotherTypeIsFatal)
 {
     const DWORD number = 7;

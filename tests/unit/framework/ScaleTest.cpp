@@ -29,6 +29,18 @@ static int WINAPI GiveDpi(HDC, int index)
     return index == LOGPIXELSX ? horizontal : index == LOGPIXELSY ? vertical : 0;
 }
 
+// In a process of its own, because the resolution is read once in a process.
+TEST(ScaleTest, AScreenThatDoesNotTellItsResolutionHas96Dpi)
+{
+    EXPECT_EXIT(
+        {
+            const ImportHook hook("GetDeviceCaps", GiveDpi);
+            horizontal = vertical = 0;
+            exit(ScaleX(5) * 10 + ScaleY(7));
+        },
+        testing::ExitedWithCode(57), "");
+}
+
 // One test, because the resolution is read once in a process.
 TEST(ScaleTest, EachAxisHasItsResolutionReadOnce)
 {

@@ -168,6 +168,9 @@ int CVireoApp::RunLoop(uint32_t acceleratorId)
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
+    if (accelerators != nullptr) {
+        DestroyAcceleratorTable(accelerators);
+    }
     return message.message == WM_QUIT ? static_cast<int>(message.wParam) : 0;
 }
 

@@ -48,14 +48,28 @@ static BOOL CALLBACK CountWindow(HWND window, LPARAM count)
     return TRUE;
 }
 
-static int CountMenus()
+// Of the handles that windows, menus and accelerator tables share, those that pass the test.
+template <typename Handle>
+static int CountHandles(bool (*isOne)(Handle))
 {
     int count = 0;
     for (uintptr_t handle = 0x20; handle <= 0xFFF0; handle += 2) {
-        if (IsMenu(reinterpret_cast<HMENU>(handle)))
+        if (isOne(reinterpret_cast<Handle>(handle))) {
             count++;
+        }
     }
     return count;
+}
+
+static int CountMenus()
+{
+    return CountHandles<HMENU>([](HMENU menu) { return IsMenu(menu) != FALSE; });
+}
+
+// A table has at least one key; what is no table has none.
+static int CountAcceleratorTables()
+{
+    return CountHandles<HACCEL>([](HACCEL table) { return CopyAcceleratorTableW(table, nullptr, 0) > 0; });
 }
 
 static size_t CountHeapBlocks()
@@ -80,19 +94,22 @@ ObjectCounts ObjectCounts::Now()
     counts.heapBlocks = CountHeapBlocks();
     EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&counts.windows));
     counts.menus = CountMenus();
+    counts.acceleratorTables = CountAcceleratorTables();
     CountGdiObjects(counts.gdiObjects);
     return counts;
 }
 
 bool ObjectCounts::SameObjects(const ObjectCounts& other) const
 {
-    return gdiObjects == other.gdiObjects && windows == other.windows && menus == other.menus;
+    return gdiObjects == other.gdiObjects && windows == other.windows && menus == other.menus &&
+           acceleratorTables == other.acceleratorTables;
 }
 
 void PrintTo(const ObjectCounts& counts, std::ostream* out)
 {
-    *out << counts.windows << " windows, " << counts.menus << " menus, " << counts.programBlocks << " + "
-         << counts.heapBlocks << " blocks; GDI objects by type:";
+    *out << counts.windows << " windows, " << counts.menus << " menus, " << counts.acceleratorTables
+         << " accelerator tables, " << counts.programBlocks << " + " << counts.heapBlocks
+         << " blocks; GDI objects by type:";
     for (size_t type = 0; type < counts.gdiObjects.size(); type++) {
         if (counts.gdiObjects[type] != 0)
             *out << ' ' << std::hex << type << std::dec << ':' << counts.gdiObjects[type];

@@ -11,6 +11,7 @@ struct ObjectCounts
     std::array<int, 256> gdiObjects{}; // number of each type of GDI object
     int windows = 0;                   // of this thread, children included
     int menus = 0;
+    int acceleratorTables = 0;
     size_t programBlocks = 0; // of operator new
     size_t heapBlocks = 0;    // of all heaps: the C library's, the system's and the program's
 

@@ -49,6 +49,12 @@ TEST_F(ProgramLeaksTest, TheCountersSeeWhatIsLeft)
     HMENU menu = CreatePopupMenu();
     EXPECT_EQ(ObjectCounts::Now().menus, before.menus + 1);
     DestroyMenu(menu);
+    ACCEL key = {FVIRTKEY, VK_F5, 1};
+    HACCEL table = CreateAcceleratorTableW(&key, 1);
+    EXPECT_EQ(ObjectCounts::Now().acceleratorTables, before.acceleratorTables + 1);
+    EXPECT_FALSE(ObjectCounts::Now().SameObjects(before));
+    DestroyAcceleratorTable(table);
+    EXPECT_TRUE(ObjectCounts::Now().SameObjects(before));
     HWND window =
         CreateWindowExW(0, L"Static", nullptr, WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
     EXPECT_EQ(ObjectCounts::Now().windows, before.windows + 1);

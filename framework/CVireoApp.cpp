@@ -281,6 +281,7 @@ bool CVireoApp::CreateMenuBar(HWND parent, uint32_t menuBarId)
     SHMENUBARINFO info = {};
     info.cbSize = sizeof info;
     info.hwndParent = parent;
+    info.dwFlags = menuBarId == 0 ? SHCMBF_EMPTYBAR : 0;
     info.nToolBarId = menuBarId;
     info.hInstRes = instance;
     const bool created = SHCreateMenuBar(&info) != FALSE;

@@ -93,6 +93,7 @@ bool CVireoDialog::MakeMenuBar()
     SHMENUBARINFO info = {};
     info.cbSize = sizeof info;
     info.hwndParent = window;
+    info.dwFlags = menuBarId == 0 ? SHCMBF_EMPTYBAR : 0;
     info.nToolBarId = menuBarId;
     info.hInstRes = CVireoApp::Current()->Instance();
     OnCreateMenuBar(info);

@@ -7,13 +7,13 @@ struct SHMENUBARINFO
 {
     DWORD cbSize;
     HWND hwndParent;
-    DWORD dwFlags;
+    DWORD dwFlags;   // SHCMBF_EMPTYBAR or 0
     UINT nToolBarId; // RCDATA resource: menu id, count, then 7 words a button; 0 for an empty bar
     HINSTANCE hInstRes;
     int nBmpId;
     int cBmpImages;
     HWND hwndMB; // out
-    COLORREF clrBk;
+    COLORREF clrBk; // not in the record's older form
 };
 
 struct SHACTIVATEINFO
@@ -40,6 +40,8 @@ struct SHRGINFO
     POINT ptDown; // in the client area
     DWORD dwFlags;
 };
+
+#define SHCMBF_EMPTYBAR 0x0001 // nToolBarId 0 is refused without it
 
 #define SHIDIM_FLAGS 0x0001
 #define SHIDIF_DONEBUTTON 0x0001

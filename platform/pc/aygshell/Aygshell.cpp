@@ -24,6 +24,12 @@ void CoverProgramRect(HWND dialog)
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
+// With the bar's colour or, older, without.
+bool IsMenuBarInfoSize(DWORD size)
+{
+    return size == sizeof(SHMENUBARINFO) || size == offsetof(SHMENUBARINFO, clrBk);
+}
+
 bool CanTakeFocus(HWND window, HWND root)
 {
     return window && (window == root || IsChild(root, window)) && IsWindowVisible(window) &&
@@ -39,11 +45,16 @@ extern "C" BOOL WINAPI ce_AygshellStartup()
 
 extern "C" BOOL WINAPI ce_SHCreateMenuBar(SHMENUBARINFO* info)
 {
-    if (!info || info->cbSize != sizeof(SHMENUBARINFO) || !IsWindow(info->hwndParent)) {
+    if (!info || !IsMenuBarInfoSize(info->cbSize) || !IsWindow(info->hwndParent)) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    info->hwndMB = MenuBar::Create(info->hwndParent, info->hInstRes, info->nToolBarId);
+    const bool empty = (info->dwFlags & SHCMBF_EMPTYBAR) != 0;
+    if (!empty && info->nToolBarId == 0) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    info->hwndMB = MenuBar::Create(info->hwndParent, info->hInstRes, empty ? 0 : info->nToolBarId);
     if (!info->hwndMB)
         return FALSE;
     KeepBarWithOwner(info->hwndParent);

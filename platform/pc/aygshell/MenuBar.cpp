@@ -1,17 +1,14 @@
 // MenuBar: the soft keys.
 #include "platform/pc/aygshell/MenuBar.h"
 
+#include "platform/pc/common/BarLook.h"
 #include "platform/pc/common/Screen.h"
 #include "platform/pc/common/SoftKeys.h"
 
 namespace {
 
-constexpr COLORREF BarTop = RGB(66, 104, 166);
-constexpr COLORREF BarBottom = RGB(22, 48, 102);
-constexpr COLORREF Pressed = RGB(110, 150, 205);
-constexpr COLORREF Divider = RGB(14, 30, 66);
-constexpr COLORREF Text = RGB(255, 255, 255);
-constexpr COLORREF DisabledText = RGB(140, 160, 195);
+// A bar's strings with smaller ids are the shell's own words, as on the device.
+constexpr UINT FirstProgramString = 100;
 
 HINSTANCE ThisModule()
 {
@@ -19,27 +16,6 @@ HINSTANCE ThisModule()
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                        reinterpret_cast<const wchar_t*>(&ThisModule), &module);
     return module;
-}
-
-void Fill(HDC dc, const RECT& rect, COLORREF colour)
-{
-    SetBkColor(dc, colour);
-    ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
-}
-
-BYTE Between(BYTE from, BYTE to, int part, int whole)
-{
-    return static_cast<BYTE>(from + (to - from) * part / whole);
-}
-
-void FillGradient(HDC dc, const RECT& rect, COLORREF top, COLORREF bottom)
-{
-    const int height = rect.bottom - rect.top;
-    for (int y = 0; y < height; ++y)
-        Fill(dc, {rect.left, rect.top + y, rect.right, rect.top + y + 1},
-             RGB(Between(GetRValue(top), GetRValue(bottom), y, height),
-                 Between(GetGValue(top), GetGValue(bottom), y, height),
-                 Between(GetBValue(top), GetBValue(bottom), y, height)));
 }
 
 } // namespace
@@ -105,7 +81,8 @@ bool MenuBar::Load(HINSTANCE resources, UINT resourceId)
         return false;
     for (size_t key = 0; key < m_texts.size() && key < m_resource.buttons.size(); ++key) {
         wchar_t text[64] = {};
-        LoadStringW(resources, m_resource.buttons[key].textId, text, 64);
+        const UINT textId = m_resource.buttons[key].textId;
+        LoadStringW(textId < FirstProgramString ? ThisModule() : resources, textId, text, 64);
         m_texts[key] = text;
     }
     m_menu = LoadMenuW(resources, MAKEINTRESOURCEW(m_resource.menuId));
@@ -184,30 +161,19 @@ void MenuBar::OpenMenu(int key, HMENU menu)
     }
 }
 
-void MenuBar::Paint(HDC dc) const
+void MenuBar::Paint(handheld::Surface& surface) const
 {
-    RECT all;
-    GetClientRect(m_window, &all);
-    FillGradient(dc, all, BarTop, BarBottom);
-    SetBkMode(dc, TRANSPARENT);
-    const HGDIOBJ font = m_font ? SelectObject(dc, m_font) : nullptr;
+    handheld::PaintBar(surface, surface.Client());
     for (int key = 0; key < KeyCount; ++key) {
-        RECT rect = KeyRect(key);
-        if (key == m_pressed)
-            FillGradient(dc, rect, Pressed, BarTop);
-        SetBkMode(dc, TRANSPARENT);
-        SetTextColor(dc, IsUsable(key) ? Text : DisabledText);
-        const std::wstring& text = m_texts[static_cast<size_t>(key)];
-        DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &rect,
-                  DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX);
+        const RECT rect = KeyRect(key);
+        if (key == m_pressed) {
+            handheld::PaintPressedKey(surface, rect);
+        }
+        handheld::PaintKeyText(surface, rect, m_texts[static_cast<size_t>(key)], m_font, IsUsable(key));
     }
-    if (font)
-        SelectObject(dc, font);
-    if (!m_resource.buttons.empty())
-        Fill(dc,
-             {all.right / 2, handheld::Scaled(4), all.right / 2 + handheld::Scaled(1),
-              all.bottom - handheld::Scaled(4)},
-             Divider);
+    if (!m_resource.buttons.empty()) {
+        handheld::PaintKeyDivider(surface, surface.Client());
+    }
 }
 
 LRESULT CALLBACK MenuBar::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -236,9 +202,8 @@ LRESULT MenuBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT: {
-        PAINTSTRUCT paint;
-        Paint(BeginPaint(m_window, &paint));
-        EndPaint(m_window, &paint);
+        handheld::Surface surface(m_window);
+        Paint(surface);
         return 0;
     }
     case WM_LBUTTONDOWN:

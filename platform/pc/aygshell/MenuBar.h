@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/pc/common/MenuBarResource.h"
+#include "platform/pc/common/Surface.h"
 
 #include <windows.h>
 
@@ -35,7 +36,7 @@ class MenuBar
     void SetPressed(int key);
     void Press(int key);
     void OpenMenu(int key, HMENU menu);
-    void Paint(HDC dc) const;
+    void Paint(handheld::Surface& surface) const;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND m_window = nullptr;

@@ -28,7 +28,7 @@ LRESULT ShellWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT: {
-        Surface surface(m_window);
+        handheld::Surface surface(m_window);
         Paint(surface);
         return 0;
     }
@@ -39,7 +39,7 @@ LRESULT ShellWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-void ShellWindow::Paint(Surface&) {}
+void ShellWindow::Paint(handheld::Surface&) {}
 
 LRESULT CALLBACK ShellWindow::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {

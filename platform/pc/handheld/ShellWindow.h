@@ -1,7 +1,7 @@
 // ShellWindow: what the windows of the handheld's shell have in common.
 #pragma once
 
-#include "platform/pc/handheld/Surface.h"
+#include "platform/pc/common/Surface.h"
 
 class ShellWindow
 {
@@ -19,7 +19,7 @@ class ShellWindow
     bool Create(const wchar_t* className, const wchar_t* title, DWORD style, DWORD exStyle, const RECT& rect);
 
     virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    virtual void Paint(Surface& surface);
+    virtual void Paint(handheld::Surface& surface);
 
   private:
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

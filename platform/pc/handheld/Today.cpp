@@ -2,6 +2,7 @@
 #include "platform/pc/handheld/Today.h"
 
 #include "platform/pc/common/ActiveProfile.h"
+#include "platform/pc/common/BarLook.h"
 #include "platform/pc/common/Screen.h"
 
 using handheld::Scaled;
@@ -100,7 +101,7 @@ LRESULT Today::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-void Today::Paint(Surface& surface)
+void Today::Paint(handheld::Surface& surface)
 {
     const RECT all = surface.Client();
     surface.FillGradient(all, SkyTop, SkyBottom);
@@ -116,7 +117,7 @@ void Today::Paint(Surface& surface)
     PaintSoftKeys(surface);
 }
 
-void Today::PaintLine(Surface& surface, const Line& line, int top) const
+void Today::PaintLine(handheld::Surface& surface, const Line& line, int top) const
 {
     const int bottom = top + Scaled(LineHeight);
     const int right = surface.Client().right;
@@ -129,13 +130,13 @@ void Today::PaintLine(Surface& surface, const Line& line, int top) const
     surface.Fill({left, bottom - Scaled(1), right - left, bottom}, Rule);
 }
 
-void Today::PaintSoftKeys(Surface& surface) const
+void Today::PaintSoftKeys(handheld::Surface& surface) const
 {
     RECT bar = SoftKeyBar();
     surface.FillGradient(bar, BandTop, BandBottom);
     bar.right /= 2;
     if (!m_program.empty())
-        surface.Text(L"Quorvane", bar, m_bold, White, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        handheld::PaintKeyText(surface, bar, L"Quorvane", m_bold, true);
 }
 
 RECT Today::SoftKeyBar() const

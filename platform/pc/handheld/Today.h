@@ -22,9 +22,9 @@ class Today final : public ShellWindow
     };
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void Paint(Surface& surface) override;
-    void PaintLine(Surface& surface, const Line& line, int top) const;
-    void PaintSoftKeys(Surface& surface) const;
+    void Paint(handheld::Surface& surface) override;
+    void PaintLine(handheld::Surface& surface, const Line& line, int top) const;
+    void PaintSoftKeys(handheld::Surface& surface) const;
     RECT SoftKeyBar() const;
     void StartProgram();
     void UpdateDate();

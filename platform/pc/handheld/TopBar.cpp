@@ -1,6 +1,7 @@
 // TopBar: the active window's title and the time.
 #include "platform/pc/handheld/TopBar.h"
 
+#include "platform/pc/common/BarLook.h"
 #include "platform/pc/common/Screen.h"
 
 #include <algorithm>
@@ -11,10 +12,6 @@ namespace {
 
 constexpr UINT_PTR UpdateTimer = 1;
 constexpr UINT UpdateInterval = 250; // ms; Wine 8.0 tells nobody that the foreground has changed
-
-constexpr COLORREF BarTop = RGB(66, 104, 166);
-constexpr COLORREF BarBottom = RGB(22, 48, 102);
-constexpr COLORREF White = RGB(255, 255, 255);
 
 // The four panes at the left end.
 constexpr COLORREF Panes[] = {RGB(226, 92, 66), RGB(120, 190, 80), RGB(80, 150, 220), RGB(248, 200, 80)};
@@ -76,10 +73,10 @@ LRESULT TopBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-void TopBar::Paint(Surface& surface)
+void TopBar::Paint(handheld::Surface& surface)
 {
     const RECT all = surface.Client();
-    surface.FillGradient(all, BarTop, BarBottom);
+    handheld::PaintBar(surface, all);
     const int pane = Scaled(6);
     const int gap = Scaled(1);
     const int left = Scaled(6);
@@ -91,7 +88,7 @@ void TopBar::Paint(Surface& surface)
     }
     RECT clock = all;
     clock.right -= Scaled(6);
-    surface.Text(m_time, clock, m_normal, White, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
+    surface.Text(m_time, clock, m_normal, handheld::barText, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
     RECT measured = clock;
     const HGDIOBJ previous = SelectObject(surface.Dc(), m_normal);
     DrawTextW(surface.Dc(), m_time.c_str(), static_cast<int>(m_time.size()), &measured,
@@ -99,7 +96,8 @@ void TopBar::Paint(Surface& surface)
     SelectObject(surface.Dc(), previous);
     const RECT title = {left + 2 * pane + Scaled(8), 0,
                         clock.right - (measured.right - measured.left) - Scaled(6), all.bottom};
-    surface.Text(m_title, title, m_bold, White, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+    surface.Text(m_title, title, m_bold, handheld::barText,
+                 DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
 }
 
 // A window without a title shows its owner's.

@@ -14,7 +14,7 @@ class TopBar final : public ShellWindow
 
   private:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void Paint(Surface& surface) override;
+    void Paint(handheld::Surface& surface) override;
     std::wstring TitleOfForeground() const;
     void MakeRoom(HWND window) const;
     void Update();

@@ -122,6 +122,10 @@ TEST(ResourcesTest, TheStringTable)
     EXPECT_EQ(String(5), L" ");
     EXPECT_EQ(String(6), L"Done");
     EXPECT_EQ(String(103), L"Ok");
+    EXPECT_EQ(String(203), L"Hide");
+    EXPECT_EQ(String(204), L"Menu");
+    EXPECT_EQ(String(205), L" ");
+    EXPECT_EQ(String(206), L"Done");
 }
 
 TEST(ResourcesTest, TheMenuOfTheRunningApplications)
@@ -163,8 +167,8 @@ TEST(ResourcesTest, TheSoftKeysOfThePages)
         uint16_t menu;
     } pages[] = {{172, 134}, {111, 102}, {174, 136}, {171, 132}};
     for (const auto& page : pages) {
-        EXPECT_EQ(MenuBar(page.bar), (Words{page.menu, 2, 0xFFFE, 112, 4, 0x10, 3, 0, 0xFFFF, //
-                                            0xFFFE, 113, 4, 0x18, 4, 0, 0}))
+        EXPECT_EQ(MenuBar(page.bar), (Words{page.menu, 2, 0xFFFE, 112, 4, 0x10, 203, 0, 0xFFFF, //
+                                            0xFFFE, 113, 4, 0x18, 204, 0, 0}))
             << page.bar;
     }
 }
@@ -172,9 +176,9 @@ TEST(ResourcesTest, TheSoftKeysOfThePages)
 TEST(ResourcesTest, TheSoftKeysOfTheDialogs)
 {
     EXPECT_EQ(MenuBar(170), (Words{0, 2, 0xFFFE, 1, 4, 0x10, 103, 0, 0xFFFF, //
-                                   0xFFFE, 2, 4, 0x10, 5, 0, 0xFFFF}));
-    EXPECT_EQ(MenuBar(173), (Words{173, 2, 0xFFFE, 1, 4, 0x10, 6, 0, 0xFFFF, //
-                                   0xFFFE, 113, 4, 0x18, 4, 0, 0}));
+                                   0xFFFE, 2, 4, 0x10, 205, 0, 0xFFFF}));
+    EXPECT_EQ(MenuBar(173), (Words{173, 2, 0xFFFE, 1, 4, 0x10, 206, 0, 0xFFFF, //
+                                   0xFFFE, 113, 4, 0x18, 204, 0, 0}));
 }
 
 TEST(ResourcesTest, TheKeysOfTheProgram)

@@ -129,6 +129,7 @@ TEST_F(CVireoAppTest, TheMainWindowEndsWhereTheMenuBarBegins)
     const SPY(SHCreateMenuBar) bar([&](SHMENUBARINFO* info) {
         atCreation = WindowRect(info->hwndParent);
         EXPECT_EQ(info->nToolBarId, 0U);
+        EXPECT_EQ(info->dwFlags, 1U);
         EXPECT_EQ(info->cbSize, sizeof(SHMENUBARINFO));
         EXPECT_EQ(info->hInstRes, GetModuleHandleW(nullptr));
         return bar.Real(info);

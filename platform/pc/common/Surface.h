@@ -5,17 +5,19 @@
 
 #include <string>
 
+namespace handheld {
+
 class Surface
 {
   public:
     // Begins the painting of a window; the end of the object's life shows the picture and ends it.
-    explicit Surface(HWND window);
+    explicit Surface(HWND paintedWindow);
     ~Surface();
     Surface(const Surface&) = delete;
     Surface& operator=(const Surface&) = delete;
 
-    const RECT& Client() const { return m_client; }
-    HDC Dc() const { return m_memory; }
+    const RECT& Client() const { return client; }
+    HDC Dc() const { return memory; }
 
     void Fill(const RECT& rect, COLORREF colour);
     void FillGradient(const RECT& rect, COLORREF top, COLORREF bottom);
@@ -23,10 +25,12 @@ class Surface
     void Text(const std::wstring& text, RECT rect, HFONT font, COLORREF colour, UINT format);
 
   private:
-    HWND m_window;
-    PAINTSTRUCT m_paint;
-    RECT m_client;
-    HDC m_memory;
-    HBITMAP m_bitmap;
-    HGDIOBJ m_previous;
+    HWND window;
+    PAINTSTRUCT paint;
+    RECT client;
+    HDC memory;
+    HBITMAP bitmap;
+    HGDIOBJ previous;
 };
+
+} // namespace handheld

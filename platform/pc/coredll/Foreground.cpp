@@ -45,6 +45,25 @@ bool IsMenuBar(HWND window)
     return GetClassNameW(window, name, 32) > 0 && lstrcmpW(name, handheld::MenuBarClass) == 0;
 }
 
+// Another thread's window may belong to a program that hangs: nothing waits for it.
+BOOL Show(HWND window, int command)
+{
+    if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId()) {
+        return ShowWindow(window, command);
+    }
+    const BOOL wasVisible = IsWindowVisible(window);
+    ShowWindowAsync(window, command);
+    return wasVisible;
+}
+
+// A program that is minimised as it starts may not have been told yet that it is in front; told later, it
+// would come to the front again.
+void DeliverPending()
+{
+    MSG unused;
+    PeekMessageW(&unused, nullptr, 0, 0, PM_NOREMOVE);
+}
+
 // A disabled window waits for one that it owns, a dialog or a message box: that one is what the user wants to
 // see.
 HWND WindowToActivate(const WindowStack& stack, HWND window)
@@ -82,31 +101,29 @@ BOOL BringToForeground(HWND window)
 // the device the next window comes to the front and the minimised one stays as it is behind the others.
 BOOL SendToBackground(HWND window)
 {
+    DeliverPending();
     const BOOL wasVisible = IsWindowVisible(window);
-    if (!wasVisible)
-        ShowWindow(window, SW_SHOWNOACTIVATE);
-    SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, KeepPlace);
+    if (!wasVisible) {
+        Show(window, SW_SHOWNOACTIVATE);
+    }
     const WindowStack stack;
     HWND next = nullptr;
-    // Wine's screen driver never lowers a window: raise all others, the front-most last.
-    for (int i = stack.count - 1; i >= 0; --i) {
+    for (int i = 0; i < stack.count; ++i) {
         const HWND other = stack.windows[i];
-        if (other == window || IsOwnedBy(other, window)) {
-            if (IsMenuBar(other))
-                ShowWindow(other, SW_HIDE);
-            continue;
-        }
-        // One after the other, or a slow program would raise its window above one that was to be in front of
-        // it.
-        const UINT waiting = IsHungAppWindow(other) ? SWP_ASYNCWINDOWPOS : 0;
-        SetWindowPos(other, HWND_TOP, 0, 0, 0, 0, KeepPlace | waiting);
-        if (waiting == 0 && CanBeForeground(other))
+        if (IsMenuBar(other) && IsOwnedBy(other, window)) {
+            Show(other, SW_HIDE);
+        } else if (IsOwnedBy(other, window)) {
+            SetWindowPos(other, HWND_BOTTOM, 0, 0, 0, 0, KeepPlace | SWP_ASYNCWINDOWPOS);
+        } else if (!next && other != window && CanBeForeground(other) && !IsHungAppWindow(other)) {
             next = other;
+        }
     }
-    if (next)
+    SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, KeepPlace | SWP_ASYNCWINDOWPOS);
+    if (next) {
         SetForegroundWindow(next);
-    else
+    } else {
         SetActiveWindow(nullptr);
+    }
     return wasVisible;
 }
 
@@ -120,10 +137,10 @@ extern "C" BOOL WINAPI ce_ShowWindow(HWND window, int command)
 {
     const bool topLevel = (GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD) == 0;
     if (!topLevel)
-        return ShowWindow(window, command);
+        return Show(window, command);
     if (command == SW_MINIMIZE)
         return SendToBackground(window);
-    const BOOL wasVisible = ShowWindow(window, command);
+    const BOOL wasVisible = Show(window, command);
     const bool activates = command == SW_SHOWNORMAL || command == SW_SHOW || command == SW_RESTORE;
     // A minimised window is still visible here, so showing it again would do nothing.
     if (wasVisible && activates && GetForegroundWindow() != window)

@@ -1,0 +1,93 @@
+// What Wine knows of windows.
+#define _GNU_SOURCE
+#include "wine_windows.h"
+
+#include <dlfcn.h>
+#include <stdint.h>
+
+#define WINE_CALL __attribute__((ms_abi))
+
+// GUITHREADINFO of Windows on x86-64.
+typedef struct
+{
+    uint32_t size;
+    uint32_t flags;
+    void* active;
+    void* others[5];
+    int32_t caret[4];
+} ThreadInfo;
+
+typedef struct
+{
+    void*(WINE_CALL* getForegroundWindow)(void);
+    int(WINE_CALL* getThreadInfo)(uint32_t thread, ThreadInfo* info);
+    void*(WINE_CALL* getThreadDesktop)(uint32_t thread);
+    int(WINE_CALL* buildWindowList)(void* desktop, uint32_t, uint32_t, uint32_t, uint32_t thread,
+                                    uint32_t room, void** windows, uint32_t* count);
+    void*(WINE_CALL* getProperty)(void* window, const uint16_t* name);
+} Core;
+
+// Null when it is not the core that this was written for.
+static const Core* LoadCore(void)
+{
+    static Core core;
+    static int complete;
+    if (!complete) {
+        void* library = dlopen("win32u.so", RTLD_LAZY | RTLD_NOLOAD);
+        if (!library) {
+            return NULL;
+        }
+        *(void**)&core.getForegroundWindow = dlsym(library, "NtUserGetForegroundWindow");
+        *(void**)&core.getThreadInfo = dlsym(library, "NtUserGetGUIThreadInfo");
+        *(void**)&core.getThreadDesktop = dlsym(library, "NtUserGetThreadDesktop");
+        *(void**)&core.buildWindowList = dlsym(library, "NtUserBuildHwndList");
+        *(void**)&core.getProperty = dlsym(library, "NtUserGetProp");
+        complete = core.getForegroundWindow && core.getThreadInfo && core.getThreadDesktop &&
+                   core.buildWindowList && core.getProperty;
+    }
+    return complete ? &core : NULL;
+}
+
+// From the thread's environment block, to which GS points in every thread of Wine's.
+static uint32_t ThisThread(void)
+{
+    uint64_t thread;
+    __asm__("movq %%gs:0x48, %0" : "=r"(thread));
+    return (uint32_t)thread;
+}
+
+// A front window is the active window of its thread.
+int AnotherThreadIsInFront(void)
+{
+    const Core* core = LoadCore();
+    if (!core) {
+        return 0;
+    }
+    ThreadInfo info = {.size = sizeof(info)};
+    void* front = core->getForegroundWindow();
+    return front && core->getThreadInfo(ThisThread(), &info) && info.active != front;
+}
+
+// The driver keeps a window's X window in a property that every process can read.
+int IsLowestWindow(Window window)
+{
+    enum
+    {
+        room = 1024
+    };
+    const Core* core = LoadCore();
+    void* windows[room]; // front-most first
+    uint32_t count = 0;
+    if (!core ||
+        core->buildWindowList(core->getThreadDesktop(ThisThread()), 0, 0, 0, 0, room, windows, &count) != 0 ||
+        count > room) {
+        return 0;
+    }
+    while (count > 0) {
+        const Window lowest = (Window)core->getProperty(windows[--count], u"__wine_x11_whole_window");
+        if (lowest != None) {
+            return lowest == window;
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,11 @@
+// What Wine knows of windows, asked of Wine itself: the core of its user32 is loaded wherever its X driver
+// is.
+#pragma once
+
+#include <X11/Xlib.h>
+
+// Whether another thread than this one has the window in front.
+int AnotherThreadIsInFront(void);
+
+// Whether no other window on the screen is behind this one in Wine's order.
+int IsLowestWindow(Window window);

@@ -1,0 +1,45 @@
+// A first start by a hardware button, with another program in front.
+#include "tests/e2e/ShellSession.h"
+#include "tests/rig/Actor.h"
+
+#include <algorithm>
+
+using namespace rig;
+
+class ButtonStartTest : public ShellSession
+{
+  protected:
+    static constexpr int rounds = 6;
+
+    void SetUp() override {}
+
+    static ptrdiff_t PlaceOf(HWND window)
+    {
+        const std::vector<HWND> windows = TopWindows();
+        return std::find(windows.begin(), windows.end(), window) - windows.begin();
+    }
+};
+
+TEST_F(ButtonStartTest, TheProgramInFrontKeepsItsPlaceAndTheKeys)
+{
+    const Actor actor;
+    const HWND front = actor.Make({.title = L"In front"});
+    ASSERT_TRUE(front);
+    for (int round = 0; round < rounds; round++) {
+        ASSERT_TRUE(Raise(front));
+        Launch(L"193 1*0");
+        ASSERT_TRUE(main);
+        ASSERT_TRUE(program->WaitForPage(TasksPage));
+        ASSERT_TRUE(WaitFor([&] { return !BarOf(main); }));
+        Send(main, WM_NULL); // it has come to its message loop
+        EXPECT_TRUE(InFront(front)) << round;
+        EXPECT_TRUE(WaitFor([&] { return PlaceOf(front) < PlaceOf(main); }, std::chrono::seconds(3)))
+            << "it is before the other program in round " << round;
+        const int keys = KeyCount(front);
+        PressKey('K');
+        EXPECT_TRUE(WaitFor([&] { return KeyCount(front) == keys + 1; }, std::chrono::seconds(3)))
+            << "the key did not reach the program in front in round " << round;
+        PostMessageW(main, WM_CLOSE, 0, 0);
+        ExpectEnd();
+    }
+}

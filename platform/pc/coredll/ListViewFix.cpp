@@ -1,6 +1,7 @@
 // Corrects the repainting of a virtual list view: Wine 8.0 scrolls and paints before it moves the selection
 // mark, and it leaves the two leftmost pixel columns out. A list whose rows are drawn by the mark would show
-// several selected rows.
+// several selected rows. And where the focus comes or goes it asks for the focused row as one that is not
+// selected, at the wrong place and straight on the screen.
 #include "platform/pc/coredll/ListViewFix.h"
 
 #include <commctrl.h>
@@ -41,15 +42,32 @@ bool CanMoveList(UINT message)
     }
 }
 
+// What a tap does to the selection brings the focused row on the screen too.
+bool DrawsFocusedRow(UINT message)
+{
+    switch (message) {
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+        return true;
+    default:
+        return false;
+    }
+}
+
 LRESULT CALLBACK InnerProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (!CanMoveList(message))
+    const bool drawn = DrawsFocusedRow(message);
+    if (!drawn && !CanMoveList(message)) {
         return CallWindowProcW(s_original, list, message, wParam, lParam);
+    }
     const Position before = PositionOf(list);
     const LRESULT result = CallWindowProcW(s_original, list, message, wParam, lParam);
     // The message may have ended the window (a double click that closes its dialog).
-    if (IsWindow(list) && !(PositionOf(list) == before))
+    if (IsWindow(list) && (drawn || !(PositionOf(list) == before))) {
         InvalidateRect(list, nullptr, FALSE);
+    }
     return result;
 }
 

@@ -13,12 +13,21 @@ struct OpenMenu
 
 thread_local OpenMenu* s_openMenu = nullptr;
 
+// Of a key that is held down.
+bool IsRepeated(const MSG& keyDown)
+{
+    return (keyDown.lParam & (1 << 30)) != 0;
+}
+
 // A menu runs its own message loop, which asks this filter about every message first.
 LRESULT CALLBACK FilterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
 {
     if (code == MSGF_MENU && s_openMenu) {
         const auto& message = *reinterpret_cast<const MSG*>(lParam);
         const int key = SoftKeyIndex(message.wParam);
+        if (key >= 0 && message.message == WM_KEYDOWN && IsRepeated(message)) {
+            return TRUE;
+        }
         if (key >= 0 && message.message == WM_KEYDOWN) {
             if (key != s_openMenu->ownKey.index)
                 s_openMenu->pressedKey = key;
@@ -61,8 +70,7 @@ bool HandleSoftKey(const MSG& message)
     const HWND bar = FindMenuBar(GetActiveWindow());
     if (!bar)
         return false;
-    const bool repeated = (message.lParam & (1 << 30)) != 0;
-    if (message.message == WM_KEYDOWN && !repeated)
+    if (message.message == WM_KEYDOWN && !IsRepeated(message))
         SendMessageW(bar, WM_PRESS_SOFT_KEY, static_cast<WPARAM>(key), 0);
     return true;
 }

@@ -1,0 +1,34 @@
+// A notice is in front of its own program only.
+#include "tests/e2e/ShellSession.h"
+#include "tests/rig/Picture.h"
+
+#include <algorithm>
+
+using namespace rig;
+
+class NoticeOrderTest : public ShellSession
+{
+  protected:
+    static ptrdiff_t PlaceOf(HWND window)
+    {
+        const std::vector<HWND> windows = TopWindows();
+        return std::find(windows.begin(), windows.end(), window) - windows.begin();
+    }
+};
+
+TEST_F(NoticeOrderTest, HidingTheProgramHidesItBehindTheHomeScreen)
+{
+    const HWND home = FindTopWindow({.className = L"DesktopExplorerWindow"});
+    ASSERT_TRUE(Raise(home));
+    ASSERT_TRUE(Raise(main));
+    program->Command(SettingsCommand);
+    const HWND notice = WaitFor([&] { return program->Notice(); });
+    ASSERT_TRUE(notice);
+    const RECT place = ScreenRectOf(notice);
+    ASSERT_TRUE(WaitFor([&] { return Picture::OfScreen(place).At(1, 1) == GetSysColor(COLOR_HIGHLIGHT); }));
+    EXPECT_EQ(GetWindowLongW(notice, GWL_EXSTYLE) & WS_EX_TOPMOST, 0) << "it would be in front of everything";
+    program->Command(HideCommand);
+    ASSERT_TRUE(InFront(home));
+    Send(main, WM_NULL);
+    EXPECT_LT(PlaceOf(home), PlaceOf(notice));
+}

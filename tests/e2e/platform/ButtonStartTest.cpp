@@ -1,6 +1,6 @@
 // A first start by a hardware button, with another program in front.
+#include "rig/Actor.h"
 #include "tests/e2e/ShellSession.h"
-#include "tests/rig/Actor.h"
 
 #include <algorithm>
 

@@ -6,38 +6,30 @@ using namespace rig;
 class HeldSoftKeyTest : public ShellSession
 {
   protected:
-    static void Repeat(WORD key)
+    // Posted: when the X focus moves Wine takes over that no key is down on the keyboard itself, so that
+    // injected keys do not count as held.
+    void Repeat(WPARAM key) const
     {
         for (int i = 0; i < 3; i++) {
-            KeyDown(key);
+            PostMessageW(main, WM_KEYDOWN, key, 1 | 1 << 30);
         }
-    }
-
-    void TearDown() override
-    {
-        KeyUp(VK_F1);
-        KeyUp(VK_F2);
     }
 };
 
 TEST_F(HeldSoftKeyTest, TheMenuStaysOpen)
 {
-    KeyDown(VK_F2);
-    const HWND menu = WaitFor([] { return OpenMenu(); });
-    ASSERT_TRUE(menu);
+    ASSERT_TRUE(PressMenuKey());
     Repeat(VK_F2);
-    KeyUp(VK_F2);
-    // The next key comes after all those.
-    PressKey(VK_F1);
-    EXPECT_TRUE(WaitFor([&] { return !BarOf(main); })) << "the other soft key does not end the menu and hide";
-    EXPECT_FALSE(OpenMenu());
+    Repeat(VK_F1);
+    PressKey(VK_UP); // from the menu's end: "Exit"
+    PressKey(VK_RETURN);
+    ExpectEnd();
 }
 
 TEST_F(HeldSoftKeyTest, TheMenuDoesNotOpenAgain)
 {
-    KeyDown(VK_F2);
-    ASSERT_TRUE(WaitFor([] { return OpenMenu(); }));
-    PressKey(VK_ESCAPE);
+    ASSERT_TRUE(PressMenuKey());
+    MenuKeys(VK_ESCAPE);
     ASSERT_TRUE(WaitFor([] { return !OpenMenu(); }));
     Repeat(VK_F2);
     ExpectKeysReachThePage(TasksPage); // a menu would take them
@@ -49,7 +41,7 @@ TEST_F(HeldSoftKeyTest, WhatClosedADialogDoesNotHideTheProgram)
     const HWND dialog = OpenWindowsList();
     ASSERT_TRUE(dialog);
     ASSERT_TRUE(InFront(dialog));
-    KeyDown(VK_F1);
+    PressKey(VK_F1);
     ASSERT_TRUE(WaitFor([&] { return !IsWindow(dialog); }));
     ASSERT_TRUE(InFront(main));
     Repeat(VK_F1);

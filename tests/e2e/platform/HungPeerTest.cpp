@@ -1,6 +1,6 @@
 // Hide beside a program that does not answer.
+#include "rig/Actor.h"
 #include "tests/e2e/ShellSession.h"
-#include "tests/rig/Actor.h"
 
 using namespace rig;
 

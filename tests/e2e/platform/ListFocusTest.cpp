@@ -1,8 +1,8 @@
 // The selected row while the list gains and loses the focus.
+#include "rig/Actor.h"
+#include "rig/Controls.h"
+#include "rig/Picture.h"
 #include "tests/e2e/ShellSession.h"
-#include "tests/rig/Actor.h"
-#include "tests/rig/Controls.h"
-#include "tests/rig/Picture.h"
 
 using namespace rig;
 

@@ -1,6 +1,6 @@
 // A notice is in front of its own program only.
+#include "rig/Picture.h"
 #include "tests/e2e/ShellSession.h"
-#include "tests/rig/Picture.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // What the soft keys say, and where the page ends above them.
 // profiles: pocketpc pocketpc-vga
+#include "rig/Picture.h"
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/ShellSession.h"
-#include "tests/rig/Picture.h"
 
 using namespace rig;
 

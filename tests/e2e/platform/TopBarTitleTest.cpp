@@ -1,6 +1,6 @@
 // The title in the top bar.
+#include "rig/Actor.h"
 #include "tests/e2e/ShellSession.h"
-#include "tests/rig/Actor.h"
 
 using namespace rig;
 

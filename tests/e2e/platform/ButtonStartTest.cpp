@@ -13,10 +13,11 @@ class ButtonStartTest : public ShellSession
 
     void SetUp() override {}
 
-    static ptrdiff_t PlaceOf(HWND window)
+    static bool IsBefore(HWND one, HWND other)
     {
         const std::vector<HWND> windows = TopWindows();
-        return std::find(windows.begin(), windows.end(), window) - windows.begin();
+        return std::find(windows.begin(), windows.end(), one) <
+               std::find(windows.begin(), windows.end(), other);
     }
 };
 
@@ -33,7 +34,7 @@ TEST_F(ButtonStartTest, TheProgramInFrontKeepsItsPlaceAndTheKeys)
         ASSERT_TRUE(WaitFor([&] { return !BarOf(main); }));
         Send(main, WM_NULL); // it has come to its message loop
         EXPECT_TRUE(InFront(front)) << round;
-        EXPECT_TRUE(WaitFor([&] { return PlaceOf(front) < PlaceOf(main); }, std::chrono::seconds(3)))
+        EXPECT_TRUE(WaitFor([&] { return IsBefore(front, main); }, std::chrono::seconds(3)))
             << "it is before the other program in round " << round;
         const int keys = KeyCount(front);
         PressKey('K');

@@ -9,10 +9,11 @@ using namespace rig;
 class NoticeOrderTest : public ShellSession
 {
   protected:
-    static ptrdiff_t PlaceOf(HWND window)
+    static bool IsBefore(HWND one, HWND other)
     {
         const std::vector<HWND> windows = TopWindows();
-        return std::find(windows.begin(), windows.end(), window) - windows.begin();
+        return std::find(windows.begin(), windows.end(), one) <
+               std::find(windows.begin(), windows.end(), other);
     }
 };
 
@@ -30,5 +31,5 @@ TEST_F(NoticeOrderTest, HidingTheProgramHidesItBehindTheHomeScreen)
     program->Command(HideCommand);
     ASSERT_TRUE(InFront(home));
     Send(main, WM_NULL);
-    EXPECT_LT(PlaceOf(home), PlaceOf(notice));
+    EXPECT_TRUE(IsBefore(home, notice));
 }

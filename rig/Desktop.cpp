@@ -129,6 +129,14 @@ HWND OpenMenu()
     return FindTopWindow({.className = MenuClass});
 }
 
+HWND FocusOf(HWND window)
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+    return info.hwndFocus;
+}
+
 bool BringToFront(HWND window)
 {
     return WaitFor([=] {

@@ -45,6 +45,9 @@ std::wstring ExecutableOf(DWORD process);
 // The open pop-up menu's window; null when no menu is open.
 HWND OpenMenu();
 
+// The window that has the focus of that window's thread; null when none has.
+HWND FocusOf(HWND window);
+
 // Asks for the front and waits until the window is there; false when it does not get there.
 bool BringToFront(HWND window);
 

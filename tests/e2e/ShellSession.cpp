@@ -42,6 +42,9 @@ void ShellSession::ExpectKeysReachThePage(int page) const
 {
     ASSERT_TRUE(InFront(main));
     EXPECT_EQ(page, program->VisiblePage());
+    // The program translates these keys wherever the focus is; a list gets the others only with it.
+    const HWND list = program->List(page);
+    EXPECT_TRUE(WaitFor([&] { return FocusOf(main) == list; })) << "the focus is not the list's";
     PressKey(VK_RIGHT);
     EXPECT_TRUE(program->WaitForPage(PageAfter(page, 1))) << "the key did not reach page " << page;
     PressKey(VK_LEFT);

@@ -56,14 +56,6 @@ class WindowsListE2eTest : public TasksScreen
         ASSERT_TRUE(WaitFor([&] { return FocusOf(dialog) == tree; }));
     }
 
-    static HWND FocusOf(HWND window)
-    {
-        GUITHREADINFO info = {};
-        info.cbSize = sizeof(info);
-        GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
-        return info.hwndFocus;
-    }
-
     // The lines of the actor's windows; Windows adds hidden ones of its own to a process, which are left out.
     std::vector<Line> OwnLines() const
     {

@@ -4,27 +4,18 @@
 
 #include "framework/CResources.h"
 #include "framework/CVireoApp.h"
-#include "keys/SKeyCommand.h"
-#include "lists/CListPage.h"
-#include "lists/IPageHost.h"
-#include "lists/SAppsList.h"
+#include "keys/SKeyPress.h"
+#include "pages/PageTable.h"
+#include "startmenu/CStartPrograms.h"
 
-class CApp : public CVireoApp, public IPageHost
+class CApp : public CVireoApp
 {
   protected:
-    CArray<SAppsList*> applications; // owns the entries
-    CArray<int> knownApplications;   // index of each well-known program's entry, or -1
-    uint32_t keyCode = 0;            // of the button that started this instance; 0 when started normally
-    uint32_t shortAction = 0;
-    uint32_t longAction = 0;
-    CStr shortFile; // started by a short press whose action is to start a file
-    CStr longFile;
+    CStartPrograms startPrograms;
+    SKeyPress keyPress;              // of the button that started this instance, or that was handed over last
     CResources* resources = nullptr; // open for the program's life
 
   public:
-    CApp() = default;
-    ~CApp() override = default;
-
     bool OnCreate() override;
     void OnDestroy() override;
     bool CheckPrevInstance(HWND existingWindow, const wchar_t* commandLine) override;
@@ -33,12 +24,8 @@ class CApp : public CVireoApp, public IPageHost
     void OnDeactivate() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    int KnownApplicationIcon(uint32_t slot) override;
-    void ShowWindowReport(HWND window) override;
-
     // Ends the open dialogs, activates a page and brings the program forward.
     void ShowPage(int32_t id);
-    CResources* Resources() const { return resources; }
 
   private:
     void OpenResources();
@@ -49,6 +36,5 @@ class CApp : public CVireoApp, public IPageHost
     void RefreshCurrentPage();
     void CloseAll();
     void ShowAbout();
-    void SendKeyCommand(HWND runningInstance) const;
-    LRESULT ReceiveKeyCommand(const COPYDATASTRUCT* data);
+    void HandOver(HWND runningInstance) const;
 };

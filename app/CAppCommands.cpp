@@ -2,7 +2,6 @@
 #include "app/CApp.h"
 
 #include "framework/CVireoView.h"
-#include "lists/CListPage.h"
 #include "pages/tasks/CloseTasks.h"
 #include "resources/ids.h"
 #include "resources/version.h"
@@ -17,19 +16,11 @@ static constexpr DWORD closingAllMs =
 
 void CApp::OnCommand(uint32_t id, uint32_t /*notifyCode*/, LPARAM /*control*/)
 {
+    if (const SPage* page = PageOfCommand(id)) {
+        ShowPage(page->id);
+        return;
+    }
     switch (id) {
-    case CMD_SHOW_TASKS:
-        ShowPage(PageTasks);
-        break;
-    case CMD_SHOW_SYSINFO:
-        ShowPage(PageSysInfo);
-        break;
-    case CMD_SHOW_START:
-        ShowPage(PageStart);
-        break;
-    case CMD_SHOW_PROCS:
-        ShowPage(PageProcs);
-        break;
     case CMD_HIDE:
         ShowWindow(mainWindow, SW_MINIMIZE);
         break;
@@ -104,7 +95,8 @@ LRESULT CApp::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         }
         break;
     case WM_COPYDATA:
-        return ReceiveKeyCommand(reinterpret_cast<const COPYDATASTRUCT*>(lParam));
+        keyPress.Read(reinterpret_cast<const COPYDATASTRUCT*>(lParam));
+        return TRUE;
     case WM_TIMER:
         if (wParam == refreshTimer) {
             RefreshCurrentPage();
@@ -119,41 +111,4 @@ LRESULT CApp::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         break;
     }
     return CVireoApp::WindowProc(message, wParam, lParam);
-}
-
-static void CopyPath(wchar_t (&target)[256], const CStr& path)
-{
-    wcsncpy(target, path, 255);
-    target[255] = 0;
-}
-
-void CApp::SendKeyCommand(HWND runningInstance) const
-{
-    SKeyCommand command = {};
-    command.vk = static_cast<int32_t>(keyCode);
-    command.pressAction = static_cast<int32_t>(shortAction);
-    command.holdAction = static_cast<int32_t>(longAction);
-    CopyPath(command.pressApplication, shortFile);
-    CopyPath(command.holdApplication, longFile);
-    COPYDATASTRUCT data = {keyCommandData, sizeof command, &command};
-    SendMessageW(runningInstance, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data));
-}
-
-// Anything but a whole record of the program's own is ignored.
-LRESULT CApp::ReceiveKeyCommand(const COPYDATASTRUCT* data)
-{
-    if (data == nullptr || data->dwData != keyCommandData || data->cbData != sizeof(SKeyCommand) ||
-        data->lpData == nullptr) {
-        return TRUE;
-    }
-    SKeyCommand command;
-    memcpy(&command, data->lpData, sizeof command);
-    command.pressApplication[255] = 0;
-    command.holdApplication[255] = 0;
-    keyCode = static_cast<uint32_t>(command.vk);
-    shortAction = static_cast<uint32_t>(command.pressAction);
-    longAction = static_cast<uint32_t>(command.holdAction);
-    shortFile = command.pressApplication;
-    longFile = command.holdApplication;
-    return TRUE;
 }

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "framework/CStr.h"
+#include "framework/PathText.h"
 
 class CFileUtils
 {
   public:
-    static const uint32_t pathSize = 260; // capacity of the strings that receive a path
-
-    // out must be of fixed size; it receives the folder of the running module with the backslash at its end.
+    // out must be of fixed size (pathSize); it receives the folder of the running module with the backslash
+    // at its end.
     static void MakeAppFolderPath(CStr& out);
     static void MakeAppFilePath(CStr& out, const wchar_t* fileName);
 

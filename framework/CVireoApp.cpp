@@ -1,23 +1,15 @@
-// The application object: its life, views, dialogs and notices. The window procedure is in
-// CVireoAppWindow.cpp.
+// The application object: its life and its message loop. Its views, dialogs and notices are in
+// CVireoAppViews.cpp, its main window in CVireoAppWindow.cpp.
 #include "framework/CVireoApp.h"
 
 #include "framework/Assert.h"
-#include "framework/CVireoDialog.h"
 #include "framework/CVireoInfowin.h"
 #include "framework/CVireoView.h"
+#include "framework/PathText.h"
 
 static CVireoApp* currentApp = nullptr;
 
 static constexpr uint32_t initialSlots = 8;
-static constexpr uint32_t noticeMs = 3000;
-static constexpr uint32_t pathLength = 260;
-
-void BringToFront(HWND window)
-{
-    // The low bit asks the window manager to bring the owned windows along.
-    SetForegroundWindow(reinterpret_cast<HWND>(reinterpret_cast<ULONG_PTR>(window) | 1));
-}
 
 CVireoApp::CVireoApp()
 {
@@ -133,9 +125,9 @@ void CVireoApp::DetectPlatform()
 
     OSVERSIONINFOW version = {};
     version.dwOSVersionInfoSize = sizeof version;
-    wchar_t name[pathLength] = {};
+    CPathText name;
     if (!GetVersionExW(&version) || version.dwPlatformId != VER_PLATFORM_WIN32_CE ||
-        !SystemParametersInfoW(SPI_GETPLATFORMTYPE, pathLength, name, 0)) {
+        !SystemParametersInfoW(SPI_GETPLATFORMTYPE, pathSize, name.Room(), 0)) {
         return;
     }
     CStr lowered(name);
@@ -176,8 +168,8 @@ int CVireoApp::RunLoop(uint32_t acceleratorId)
 
 void CVireoApp::MakeAppBaseName(CStr& out)
 {
-    wchar_t path[pathLength] = {};
-    GetModuleFileNameW(nullptr, path, pathLength);
+    CPathText path;
+    GetModuleFileNameW(nullptr, path.Room(), pathSize);
     MakeBaseName(out, path);
 }
 
@@ -189,102 +181,4 @@ void CVireoApp::MakeBaseName(CStr& out, const wchar_t* modulePath)
     Assert(slash != -1 && dot != -1 && dot > slash + 1, ErrorNotFound, L"CVireoApp::MakeAppBaseName",
            __LINE__);
     out = path.Mid(static_cast<uint32_t>(slash + 1), static_cast<uint32_t>(dot - slash - 1));
-}
-
-CVireoView* CVireoApp::FindView(int32_t id) const
-{
-    for (uint32_t i = 0; i < views->Count(); ++i) {
-        if (views->At(i)->Id() == id) {
-            return views->At(i);
-        }
-    }
-    return nullptr;
-}
-
-void CVireoApp::ActivateView(int32_t id)
-{
-    CVireoView* previous = activeView;
-    if (previous != nullptr && previous->Id() == id) {
-        return;
-    }
-    CVireoView* view = FindView(id);
-    Assert(view != nullptr, ErrorNotFound, L"CVireoApp::ActivateView", __LINE__);
-
-    activeView = view;
-    RECT client = {};
-    GetClientRect(mainWindow, &client);
-    MoveWindow(view->Window(), 0, 0, client.right, client.bottom, FALSE);
-    CreateMenuBar(mainWindow, view->MenuBarId());
-    ShowWindow(view->Window(), SW_SHOWNORMAL);
-    SetFocus(view->Window());
-    UpdateWindow(view->Window());
-
-    view->OnActivate(previous != nullptr ? previous->Id() : 0);
-    if (previous != nullptr) {
-        ShowWindow(previous->Window(), SW_HIDE);
-        previous->OnDeactivate();
-    }
-}
-
-void CVireoApp::AddView(CVireoView* view)
-{
-    views->Append(view);
-}
-
-void CVireoApp::ShowInfo(const wchar_t* text, uint32_t hideAfterMs, uint32_t placement)
-{
-    if (infoWindow != nullptr) {
-        infoWindow->Show(text, hideAfterMs, placement, 0);
-    }
-}
-
-void CVireoApp::HideInfo()
-{
-    if (infoWindow != nullptr) {
-        infoWindow->Hide();
-    }
-}
-
-void CVireoApp::ShowNotice(const wchar_t* text)
-{
-    ShowInfo(text, noticeMs, InfoRight);
-}
-
-void CVireoApp::EndAllDialogs()
-{
-    for (uint32_t i = dialogs != nullptr ? dialogs->Count() : 0; i > 0; --i) {
-        dialogs->At(i - 1)->End(IDCANCEL);
-    }
-}
-
-void CVireoApp::DialogOpened(CVireoDialog* dialog)
-{
-    dialogs->Append(dialog);
-}
-
-void CVireoApp::DialogClosed(CVireoDialog* dialog)
-{
-    for (uint32_t i = dialogs != nullptr ? dialogs->Count() : 0; i > 0; --i) {
-        if (dialogs->At(i - 1) == dialog) {
-            dialogs->Delete(i - 1, 1);
-            return;
-        }
-    }
-}
-
-bool CVireoApp::CreateMenuBar(HWND parent, uint32_t menuBarId)
-{
-    if (menuBar != nullptr) {
-        DestroyWindow(menuBar);
-        menuBar = nullptr;
-    }
-    SHMENUBARINFO info = {};
-    info.cbSize = sizeof info;
-    info.hwndParent = parent;
-    info.dwFlags = menuBarId == 0 ? SHCMBF_EMPTYBAR : 0;
-    info.nToolBarId = menuBarId;
-    info.hInstRes = instance;
-    const bool created = SHCreateMenuBar(&info) != FALSE;
-    menuBar = created ? info.hwndMB : nullptr;
-    return created;
 }

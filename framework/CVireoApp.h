@@ -96,10 +96,15 @@ class CVireoApp
     // The one form in which the program tells the user something in passing.
     void ShowNotice(const wchar_t* text);
 
-    // Ends every open framework dialog, newest first, with IDCANCEL. The dialogs go when their loops read it.
-    void EndAllDialogs();
+    // Modality: a dialog begins it before its loop and ends it before its window goes. The main window takes
+    // no input in between. Without a main window, before its creation and after its end, nothing happens.
+    void BeginModal();
+    void EndModal();
+    // The dialogs that are open, in opening order.
     void DialogOpened(CVireoDialog* dialog);
     void DialogClosed(CVireoDialog* dialog);
+    // Ends every one of them, newest first, with IDCANCEL. The dialogs go when their loops read it.
+    void EndAllDialogs();
 
     // Replaces the current soft-key bar; false, and no bar, when the shell refuses.
     bool CreateMenuBar(HWND parent, uint32_t menuBarId);
@@ -119,6 +124,7 @@ class CVireoApp
     void MakeRoomForMenuBar();
     int RunLoop(uint32_t acceleratorId);
     CVireoView* FindView(int32_t id) const;
+    void EnableMainWindow(BOOL enabled);
     void Tear();
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -54,16 +54,17 @@ int CVireoDialog::Start(const DLGTEMPLATE* dialogTemplate, uint32_t barId, uint3
     acceleratorId = acceleratorTableId;
     fullScreen = coverScreen;
     runsInLoop = true;
-    refused = ended = false;
+    reached = ended = false;
     endResult = 0;
     window = nullptr;
     accelerators =
         acceleratorId != 0 ? LoadAcceleratorsW(app->Instance(), MAKEINTRESOURCEW(acceleratorId)) : nullptr;
-    HWND created = CreateDialogIndirectParamW(app->Instance(), dialogTemplate, app->MainWindow(),
-                                              DialogWindowProc, reinterpret_cast<LPARAM>(this));
-    AssertText(refused || created != nullptr, L"Error creating dialog wnd", L"CVireoDialog::StartDialog",
-               __LINE__);
-    const int result = refused ? 0 : RunLoop();
+    // The handle that comes back tells little: a window that goes while it is initialised leaves a null one
+    // on Windows and a stale one on Wine.
+    CreateDialogIndirectParamW(app->Instance(), dialogTemplate, app->MainWindow(), DialogWindowProc,
+                               reinterpret_cast<LPARAM>(this));
+    AssertText(reached, L"Error creating dialog wnd", L"CVireoDialog::StartDialog", __LINE__);
+    const int result = RunLoop();
     if (accelerators != nullptr) {
         DestroyAcceleratorTable(accelerators);
         accelerators = nullptr;
@@ -73,11 +74,12 @@ int CVireoDialog::Start(const DLGTEMPLATE* dialogTemplate, uint32_t barId, uint3
 
 int CVireoDialog::RunLoop()
 {
-    HWND mainWindow = CVireoApp::Current()->MainWindow();
-    // A dialog above another one leaves the main window disabled: the outer dialog is still open.
-    const BOOL wasEnabled = IsWindowEnabled(mainWindow);
-    EnableWindow(mainWindow, FALSE);
-    ShowWindow(window, SW_SHOW);
+    CVireoApp* app = CVireoApp::Current();
+    HWND mainWindow = app->MainWindow();
+    if (IsWindow(window)) {
+        app->BeginModal();
+        ShowWindow(window, SW_SHOW);
+    }
 
     MSG message = {};
     while (!ended && IsWindow(window)) {
@@ -95,7 +97,7 @@ int CVireoDialog::RunLoop()
             DispatchMessageW(&message);
         }
     }
-    EnableWindow(mainWindow, wasEnabled);
+    app->EndModal();
     if (IsWindow(window)) {
         DestroyWindow(window);
     }

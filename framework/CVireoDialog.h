@@ -36,8 +36,9 @@ class CVireoDialog
     // Every other message; 0 means not handled.
     virtual INT_PTR DialogProc(UINT message, WPARAM wParam, LPARAM lParam);
 
-    // Runs the dialog until it ends. The result is the one given to End; 0 when the shell refused the dialog
-    // or the program is closing. A template that is missing or cannot be made into a window is fatal.
+    // Runs the dialog until it ends. The result is the one given to End; 0 when the shell refused the dialog,
+    // when its window went while it was initialised, or when the program is closing. A template that is
+    // missing or cannot be made into a window is fatal.
     int StartDialog(uint32_t templateId, uint32_t barId, uint32_t acceleratorTableId, bool coverScreen);
     // The same with an empty template.
     int StartDialogNoTemplate(uint32_t barId, uint32_t acceleratorTableId, bool coverScreen);
@@ -58,7 +59,7 @@ class CVireoDialog
     void FillClient(int controlId);
 
   private:
-    bool refused = false; // the dialog gave up while it was being initialised
+    bool reached = false; // the window came as far as its initialisation
     bool ended = false;   // the request to end has arrived
     int endResult = 0;
 

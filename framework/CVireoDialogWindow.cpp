@@ -22,7 +22,9 @@ INT_PTR CALLBACK CVireoDialog::DialogWindowProc(HWND dialog, UINT message, WPARA
 {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrW(dialog, GWLP_USERDATA, lParam);
-        reinterpret_cast<CVireoDialog*>(lParam)->window = dialog;
+        auto* started = reinterpret_cast<CVireoDialog*>(lParam);
+        started->window = dialog;
+        started->reached = true;
     }
     auto* object = reinterpret_cast<CVireoDialog*>(GetWindowLongPtrW(dialog, GWLP_USERDATA));
     return object != nullptr ? object->HandleMessage(message, wParam, lParam) : 0;
@@ -71,14 +73,11 @@ bool CVireoDialog::Initialise()
         info.dwFlags =
             CVireoApp::Current()->PlatformKind() == Platform::Smartphone ? smartphoneFlags : pocketPcFlags;
         if (!SHInitDialog(&info)) {
-            // Nothing was set up that the loop could run.
-            refused = true;
-            DestroyWindow(window);
+            DestroyWindow(window); // nothing was set up that the loop could run
             return false;
         }
     }
     if (!MakeMenuBar()) {
-        refused = true;
         DestroyWindow(window);
         return false;
     }

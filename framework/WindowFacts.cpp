@@ -1,19 +1,19 @@
 // Facts about windows.
 #include "framework/WindowFacts.h"
 
-static constexpr int textLength = 260; // characters with the terminator
+#include "framework/PathText.h"
 
 void WindowTitle(HWND window, CStr& title)
 {
-    wchar_t text[textLength] = {};
-    GetWindowTextW(window, text, textLength);
+    CPathText text;
+    GetWindowTextW(window, text.Room(), pathSize);
     title = text;
 }
 
 void WindowClass(HWND window, CStr& className)
 {
-    wchar_t text[textLength] = {};
-    GetClassNameW(window, text, textLength);
+    CPathText text;
+    GetClassNameW(window, text.Room(), pathSize);
     className = text;
 }
 
@@ -22,4 +22,13 @@ DWORD WindowProcessId(HWND window)
     DWORD processId = 0;
     GetWindowThreadProcessId(window, &processId);
     return processId;
+}
+
+HWND TopOwner(HWND window)
+{
+    HWND top = window;
+    while (HWND owner = GetWindow(top, GW_OWNER)) {
+        top = owner;
+    }
+    return top;
 }

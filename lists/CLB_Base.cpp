@@ -25,7 +25,6 @@ CLB_Base::~CLB_Base()
         SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(originalProcedure));
         ForgetWindowObject(window);
     }
-    FreeBuffer();
 }
 
 void CLB_Base::Construct(HWND parent)
@@ -76,13 +75,30 @@ bool CLB_Base::DrawItem(const DRAWITEMSTRUCT& draw)
     if (draw.CtlType != ODT_LISTVIEW) {
         return false;
     }
-    DrawRow(draw.hDC, draw.rcItem, draw.itemID, (draw.itemState & ODS_SELECTED) != 0);
+    if (draw.itemID < RecordCount()) {
+        DrawRow(draw.hDC, draw.rcItem, draw.itemID, (draw.itemState & ODS_SELECTED) != 0);
+    }
     return true;
 }
 
 uint32_t CLB_Base::Count() const
 {
     return static_cast<uint32_t>(SendMessageW(window, LVM_GETITEMCOUNT, 0, 0));
+}
+
+int CLB_Base::SelectionMark() const
+{
+    return static_cast<int>(SendMessageW(window, LVM_GETSELECTIONMARK, 0, 0));
+}
+
+int CLB_Base::TopRow() const
+{
+    return static_cast<int>(SendMessageW(window, LVM_GETTOPINDEX, 0, 0));
+}
+
+int CLB_Base::RowsPerPage() const
+{
+    return static_cast<int>(SendMessageW(window, LVM_GETCOUNTPERPAGE, 0, 0));
 }
 
 void CLB_Base::SetCount(uint32_t count)
@@ -93,7 +109,7 @@ void CLB_Base::SetCount(uint32_t count)
 int CLB_Base::SelectedRow() const
 {
     // The control keeps a mark beyond the rows that are left when the list shrinks.
-    const auto mark = static_cast<int>(SendMessageW(window, LVM_GETSELECTIONMARK, 0, 0));
+    const int mark = SelectionMark();
     return mark >= 0 && mark < static_cast<int>(Count()) ? mark : -1;
 }
 
@@ -118,9 +134,8 @@ void CLB_Base::ShowSelectedRow()
 
 void CLB_Base::ClampSelection()
 {
-    const auto mark = static_cast<int>(SendMessageW(window, LVM_GETSELECTIONMARK, 0, 0));
-    const auto last = static_cast<int>(Count()) - 1;
-    if (mark > last) {
+    const int last = static_cast<int>(Count()) - 1;
+    if (SelectionMark() > last) {
         SelectRow(last);
     }
 }
@@ -138,7 +153,9 @@ void CLB_Base::EraseLikeList(HDC target) const
 
 void CLB_Base::EmptyText(CStr& /*text*/) const {}
 
-bool CLB_Base::FilterMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/)
+bool CLB_Base::BeforeControl(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/)
 {
     return false;
 }
+
+void CLB_Base::AfterControl(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {}

@@ -2,7 +2,7 @@
 // demand.
 #pragma once
 
-#include "platform/ce.h"
+#include "lists/CBackBuffer.h"
 
 class CStr;
 
@@ -22,11 +22,7 @@ class CLB_Base
     WNDPROC originalProcedure = nullptr;
     HWND window = nullptr;
     HWND owner = nullptr; // the window that row requests go to
-    int bufferWidth = 0;  // last client size seen
-    int bufferHeight = 0;
-    HDC bufferDC = nullptr; // null until the first size
-    HBITMAP bufferBitmap = nullptr;
-    HGDIOBJ previousBitmap = nullptr;
+    CBackBuffer buffer;
     const SListTraits& traits;
 
     explicit CLB_Base(const SListTraits& listTraits) : traits(listTraits) {}
@@ -41,12 +37,18 @@ class CLB_Base
     void Construct(HWND parent);
     // Makes the one column span the control again; needed after each resize and refill.
     void RecreateColumns(bool deleteFirst);
-    // Row requests of the control; both act only for a list view and say whether they did.
+    // Row requests of the control; both act only for a list view and say whether they did. A request for a
+    // row that has no record (any more) draws nothing: boxes that are shown between freeing the records and
+    // counting them anew let the control ask for rows that it still believes in.
     bool MeasureItem(MEASUREITEMSTRUCT& measure);
     bool DrawItem(const DRAWITEMSTRUCT& draw);
 
     HWND Window() const { return window; }
+    // What the control says of itself. Its selection mark may lie behind the last row.
     uint32_t Count() const;
+    int SelectionMark() const;
+    int TopRow() const;
+    int RowsPerPage() const;
     void SetCount(uint32_t count);
     // The row at the selection mark, or -1 when the mark is not a row of the list.
     int SelectedRow() const;
@@ -61,22 +63,25 @@ class CLB_Base
     void EraseLikeList(HDC target) const;
 
   protected:
-    virtual int RowHeight() const = 0;
+    virtual int RowHeight() const = 0; // pixels
+    // The number of records that rows can be drawn from now.
+    virtual uint32_t RecordCount() const = 0;
     virtual void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) = 0;
     // The text shown in place of rows; empty for none.
     virtual void EmptyText(CStr& text) const;
-    // The list's own treatment of a message before the control's; true when it was consumed.
-    virtual bool FilterMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    // The list's own part in a message, before the control's own handling (true: the message is consumed) and
+    // after it. The latter does not come when the list went meanwhile.
+    virtual bool BeforeControl(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual void AfterControl(UINT message, WPARAM wParam, LPARAM lParam);
 
   private:
     LRESULT Original(UINT message, WPARAM wParam, LPARAM lParam) const;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    void ResizeBuffer(int width, int height);
-    void FreeBuffer();
     LRESULT Paint();
-    void PaintRows(HDC screen, const RECT& paintRect);
-    void PaintSeparators(int topRow, int slots);
+    void PaintRows(HDC screen, const RECT& paintRect) const;
+    void PaintSeparators(int topRow, int slots) const;
     void PaintEmpty(HDC screen) const;
     RECT RowRect(int row) const;
+    static CLB_Base* ListOf(HWND listWindow);
     static LRESULT CALLBACK ListWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 };

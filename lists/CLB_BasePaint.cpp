@@ -16,54 +16,40 @@ LRESULT CLB_Base::Original(UINT message, WPARAM wParam, LPARAM lParam) const
     return CallWindowProcW(originalProcedure, window, message, wParam, lParam);
 }
 
-LRESULT CALLBACK CLB_Base::ListWindowProc(HWND listWindow, UINT message, WPARAM wParam, LPARAM lParam)
+// Null when the object has gone, which may be before its window.
+CLB_Base* CLB_Base::ListOf(HWND listWindow)
 {
-    auto* list = reinterpret_cast<CLB_Base*>(GetWindowLongPtrW(listWindow, GWLP_USERDATA));
-    return list->HandleMessage(message, wParam, lParam);
+    return reinterpret_cast<CLB_Base*>(GetWindowLongPtrW(listWindow, GWLP_USERDATA));
 }
 
-// Nothing touches the list after the control's own procedure ran: its notifications may end the program.
+LRESULT CALLBACK CLB_Base::ListWindowProc(HWND listWindow, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ListOf(listWindow)->HandleMessage(message, wParam, lParam);
+}
+
+// The control's own procedure may end the program, and this object with it: its notifications run commands.
 LRESULT CLB_Base::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    HWND self = window;
     switch (message) {
-    case WM_SIZE: {
-        const LRESULT result = Original(message, wParam, lParam);
-        ResizeBuffer(LOWORD(lParam), HIWORD(lParam));
-        return result;
-    }
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
         return Paint();
     default:
-        return FilterMessage(message, wParam, lParam) ? 0 : Original(message, wParam, lParam);
+        break;
     }
-}
-
-void CLB_Base::ResizeBuffer(int width, int height)
-{
-    if (width == bufferWidth && height == bufferHeight && bufferDC != nullptr) {
-        return;
+    if (BeforeControl(message, wParam, lParam)) {
+        return 0;
     }
-    FreeBuffer();
-    bufferWidth = width;
-    bufferHeight = height;
-    WindowDC screen(window);
-    bufferDC = CreateCompatibleDC(screen);
-    bufferBitmap = CreateCompatibleBitmap(screen, width, height);
-    previousBitmap = SelectObject(bufferDC, bufferBitmap);
-}
-
-void CLB_Base::FreeBuffer()
-{
-    if (bufferDC == nullptr) {
-        return;
+    const LRESULT result = Original(message, wParam, lParam);
+    if (ListOf(self) == this) {
+        if (message == WM_SIZE) {
+            buffer.Resize(window, LOWORD(lParam), HIWORD(lParam));
+        }
+        AfterControl(message, wParam, lParam);
     }
-    SelectObject(bufferDC, previousBitmap);
-    DeleteObject(bufferBitmap);
-    DeleteDC(bufferDC);
-    bufferDC = nullptr;
-    bufferBitmap = nullptr;
+    return result;
 }
 
 RECT CLB_Base::RowRect(int row) const
@@ -84,25 +70,25 @@ LRESULT CLB_Base::Paint()
         PaintEmpty(paint);
         return 1;
     }
-    if (bufferDC == nullptr) {
+    if (buffer.DC() == nullptr) {
         RECT client = {};
         GetClientRect(window, &client);
-        ResizeBuffer(client.right, client.bottom);
+        buffer.Resize(window, client.right, client.bottom);
     }
-    if (bufferDC == nullptr) {
+    if (buffer.DC() == nullptr) {
         return 0; // no memory for it: nothing is drawn
     }
     PaintRows(paint, paint.Area());
     return 0;
 }
 
-void CLB_Base::PaintRows(HDC screen, const RECT& paintRect)
+void CLB_Base::PaintRows(HDC screen, const RECT& paintRect) const
 {
-    EraseLikeList(bufferDC);
-    const auto top = static_cast<int>(SendMessageW(window, LVM_GETTOPINDEX, 0, 0));
-    const auto perPage = static_cast<int>(SendMessageW(window, LVM_GETCOUNTPERPAGE, 0, 0));
+    EraseLikeList(buffer.DC());
+    const int top = TopRow();
+    const int perPage = RowsPerPage();
     const auto count = static_cast<int>(Count());
-    const auto mark = static_cast<int>(SendMessageW(window, LVM_GETSELECTIONMARK, 0, 0));
+    const int mark = SelectionMark();
     if (traits.separators) {
         PaintSeparators(top, perPage + 1);
     }
@@ -111,7 +97,7 @@ void CLB_Base::PaintRows(HDC screen, const RECT& paintRect)
     draw.CtlType = ODT_LISTVIEW;
     draw.CtlID = IDC_LIST;
     draw.hwndItem = window;
-    draw.hDC = bufferDC;
+    draw.hDC = buffer.DC();
     for (int row = top; row <= top + perPage && row < count; ++row) {
         draw.itemID = static_cast<UINT>(row);
         draw.itemAction = row == mark ? ODA_SELECT : 0;
@@ -123,17 +109,17 @@ void CLB_Base::PaintRows(HDC screen, const RECT& paintRect)
         }
     }
     BitBlt(screen, paintRect.left, paintRect.top, paintRect.right - paintRect.left,
-           paintRect.bottom - paintRect.top, bufferDC, paintRect.left, paintRect.top, SRCCOPY);
+           paintRect.bottom - paintRect.top, buffer.DC(), paintRect.left, paintRect.top, SRCCOPY);
 }
 
-void CLB_Base::PaintSeparators(int topRow, int slots)
+void CLB_Base::PaintSeparators(int topRow, int slots) const
 {
     RECT slot = RowRect(topRow);
     const int height = slot.bottom - slot.top;
     const int thickness = ScaleX(1);
     for (int i = 0; i < slots; ++i) {
         const RECT strip = {slot.left, slot.bottom - thickness, slot.right, slot.bottom};
-        FillRect(bufferDC, &strip, CE_COLOR_BRUSH(COLOR_SCROLLBAR));
+        FillRect(buffer.DC(), &strip, CE_COLOR_BRUSH(COLOR_SCROLLBAR));
         slot.top += height;
         slot.bottom += height;
     }

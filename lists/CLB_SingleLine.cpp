@@ -1,14 +1,9 @@
 // The row height of the single-line lists.
 #include "lists/CLB_SingleLine.h"
 
-#include "lists/CListPage.h"
-#include "lists/RowLook.h"
-
-CLB_SingleLine::CLB_SingleLine(const SListTraits& listTraits, CListPage& owningPage)
-    : CLB_Base(listTraits), page(owningPage)
-{}
+#include "lists/RowMeasures.h"
 
 int CLB_SingleLine::RowHeight() const
 {
-    return SingleLineRowHeight(page.BoldFont(), page.Icons().height);
+    return SingleLineRowHeight(look.BoldFont(), look.Icons().height);
 }

@@ -1,15 +1,14 @@
-// The list of the processes page.
+// The list of the processes page; it has no records yet.
 #pragma once
 
 #include "lists/CLB_SingleLine.h"
 
-class CViewProcs;
-
 class CLB_Procs : public CLB_SingleLine
 {
   public:
-    explicit CLB_Procs(CViewProcs& owningView);
+    explicit CLB_Procs(const CRowLook& rowLook);
 
   protected:
+    uint32_t RecordCount() const override { return 0; }
     void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) override;
 };

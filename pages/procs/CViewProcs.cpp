@@ -1,11 +1,9 @@
 // The processes page.
 #include "pages/procs/CViewProcs.h"
 
-#include "resources/ids.h"
+static constexpr SPageTraits pageTraits = {2, 2, 0};
 
-static constexpr SPageTraits pageTraits = {L"Processes", CMD_SHOW_PROCS, PageSysInfo, PageTasks, 2, 2, 0};
-
-CViewProcs::CViewProcs() : CListPage(pageTraits), list(*this) {}
+CViewProcs::CViewProcs() : CListPage(pageTraits), list(look) {}
 
 void CViewProcs::Fill(int /*row*/)
 {

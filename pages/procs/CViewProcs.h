@@ -1,7 +1,7 @@
 // The processes page: its list is still empty.
 #pragma once
 
-#include "lists/CListPage.h"
+#include "pages/CListPage.h"
 #include "pages/procs/CLB_Procs.h"
 
 class CViewProcs : public CListPage

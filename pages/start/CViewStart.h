@@ -1,7 +1,7 @@
 // The launcher page: its list is still empty.
 #pragma once
 
-#include "lists/CListPage.h"
+#include "pages/CListPage.h"
 #include "pages/start/CLB_Start.h"
 
 class CViewStart : public CListPage

@@ -1,15 +1,14 @@
-// The list of the system information page.
+// The list of the system information page; it has no records yet.
 #pragma once
 
 #include "lists/CLB_SingleLine.h"
 
-class CViewSysInfo;
-
 class CLB_Memory : public CLB_SingleLine
 {
   public:
-    explicit CLB_Memory(CViewSysInfo& owningView);
+    explicit CLB_Memory(const CRowLook& rowLook);
 
   protected:
+    uint32_t RecordCount() const override { return 0; }
     void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) override;
 };

@@ -1,12 +1,9 @@
 // The system information page.
 #include "pages/sysinfo/CViewSysInfo.h"
 
-#include "resources/ids.h"
+static constexpr SPageTraits pageTraits = {2, 2, 0};
 
-static constexpr SPageTraits pageTraits = {
-    L"System information", CMD_SHOW_SYSINFO, PageStart, PageProcs, 2, 2, 0};
-
-CViewSysInfo::CViewSysInfo() : CListPage(pageTraits), list(*this) {}
+CViewSysInfo::CViewSysInfo() : CListPage(pageTraits), list(look) {}
 
 void CViewSysInfo::Fill(int /*row*/)
 {

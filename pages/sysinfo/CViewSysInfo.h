@@ -1,7 +1,7 @@
 // The system information page: its list is still empty.
 #pragma once
 
-#include "lists/CListPage.h"
+#include "pages/CListPage.h"
 #include "pages/sysinfo/CLB_Memory.h"
 
 class CViewSysInfo : public CListPage

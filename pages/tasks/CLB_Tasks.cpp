@@ -3,17 +3,17 @@
 
 #include "framework/Scale.h"
 #include "lists/CRowPainter.h"
-#include "pages/tasks/CViewTasks.h"
 
 static constexpr SListTraits tasksListTraits = {L"CLB_Tasks::Construct", L"CLB_Tasks::RecreateColumns", true};
 
-CLB_Tasks::CLB_Tasks(CViewTasks& owningView) : CLB_SingleLine(tasksListTraits, owningView), view(owningView)
+CLB_Tasks::CLB_Tasks(const CRowLook& rowLook, const CTaskRecords& taskRecords)
+    : CLB_SingleLine(tasksListTraits, rowLook), tasks(taskRecords)
 {}
 
 void CLB_Tasks::DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected)
 {
-    const STaskInfo& task = view.Task(row);
-    const SSystemIcons& icons = view.Icons();
+    const STaskInfo& task = *tasks.At(row);
+    const SSystemIcons& icons = look.Icons();
     CRowPainter painter(target, rect, selected);
     if (task.icon != nullptr) {
         painter.DrawIcon(task.icon, icons.height);
@@ -23,6 +23,6 @@ void CLB_Tasks::DrawRow(HDC target, const RECT& rect, uint32_t row, bool selecte
     CStr size;
     size.AppendSize(static_cast<int64_t>(task.heapBytes));
     RECT area = painter.TextArea(icons.width);
-    area.right -= painter.DrawRight(view.NormalFont(), size, area) + ScaleX(2);
-    painter.DrawLeft(view.BoldFont(), task.name, area);
+    area.right -= painter.DrawRight(look.NormalFont(), size, area) + ScaleX(2);
+    painter.DrawLeft(look.BoldFont(), task.name, area);
 }

@@ -2,16 +2,16 @@
 #pragma once
 
 #include "lists/CLB_SingleLine.h"
-
-class CViewTasks;
+#include "pages/tasks/CTaskRecords.h"
 
 class CLB_Tasks : public CLB_SingleLine
 {
-    CViewTasks& view;
+    const CTaskRecords& tasks;
 
   public:
-    explicit CLB_Tasks(CViewTasks& owningView);
+    CLB_Tasks(const CRowLook& rowLook, const CTaskRecords& taskRecords);
 
   protected:
+    uint32_t RecordCount() const override { return tasks.Count(); }
     void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) override;
 };

@@ -2,33 +2,28 @@
 // windows.
 #pragma once
 
-#include "lists/CListPage.h"
+#include "pages/CListPage.h"
+#include "pages/RowCopy.h"
 #include "pages/tasks/CLB_Tasks.h"
-#include "pages/tasks/STaskInfo.h"
+#include "pages/tasks/CTaskRecords.h"
 
 class CViewTasks : public CListPage
 {
-    CArray<STaskInfo*>* tasks = nullptr; // owns the records
+    CTaskRecords tasks;
     bool firstShow = true;
     CLB_Tasks list;
 
   public:
-    CViewTasks();
-    ~CViewTasks() override;
+    explicit CViewTasks(CStartPrograms& programs);
 
-    void OnCreate() override;
     void OnActivate(int32_t previousViewId) override;
     void OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM control) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     // Rebuilds the records, keeping the task of a row selected; -1 means the row at the selection mark.
     void FillList(int row);
-    const STaskInfo& Task(uint32_t row) const { return *tasks->At(row); }
-    uint32_t TaskCount() const { return tasks->Count(); }
-
-    // The report on any window in the information dialog; a notice when the window has gone. Nothing for the
-    // all-ones handle, which stands for no window.
-    static void ShowWindowReport(HWND window);
+    const STaskInfo& Task(uint32_t row) const { return *tasks.At(row); }
+    uint32_t TaskCount() const { return tasks.Count(); }
 
   protected:
     CLB_Base& List() override { return list; }
@@ -36,9 +31,9 @@ class CViewTasks : public CListPage
     void Refresh() override;
 
   private:
-    HWND WindowOfRow(int row) const;
+    HWND WindowOfRow(int row) const; // null for a row without a task
     void Rebuild(HWND keepSelected);
     static void SwitchTo(HWND window);
-    void Close(int row, HWND window);
+    void Close(const SRowCopy<HWND>& task);
     static void ShowWindowsList(HWND window);
 };

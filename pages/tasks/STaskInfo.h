@@ -12,6 +12,8 @@ struct STaskInfo
     int32_t iconIndex = -1; // in the system small-icon list; not -1 once the record is stored
     uint64_t heapBytes = 0; // of the task's process; below 2^32
     HICON icon = nullptr;   // drawn in place of the list's icon when set
+
+    HWND Identity() const { return window; }
 };
 
 QV_ARRAY_NAMES(STaskInfo*, "struct STaskInfo *");

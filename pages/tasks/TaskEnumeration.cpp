@@ -3,8 +3,8 @@
 
 #include "framework/Assert.h"
 #include "framework/CVireoApp.h"
+#include "framework/ProcessFacts.h"
 #include "lists/SystemIcons.h"
-#include "pages/ProcessFacts.h"
 #include "pages/tasks/TaskIcon.h"
 #include "pages/tasks/TaskWindows.h"
 
@@ -31,7 +31,7 @@ static void NameUntitled(HWND topOwner, CStr& name)
     }
 }
 
-static void DescribeTask(STaskInfo& task)
+static void DescribeTask(STaskInfo& task, CStartPrograms& programs)
 {
     const DWORD processId = WindowProcessId(task.window);
     CStr className;
@@ -39,12 +39,12 @@ static void DescribeTask(STaskInfo& task)
     CStr path;
     ProcessImagePath(processId, path);
 
-    const STaskIcon icon = TaskIconForClass(SystemIconIndex(path), className);
+    const STaskIcon icon = TaskIconForClass(SystemIconIndex(path), className, programs);
     task.iconIndex = icon.index;
     if (icon.final) {
         return; // the shell: shown without a heap figure
     }
-    task.iconIndex = TaskIconForPath(task.iconIndex, path);
+    task.iconIndex = TaskIconForPath(task.iconIndex, path, programs);
     task.heapBytes = ProcessHeapBytes(processId);
 }
 
@@ -56,7 +56,7 @@ BOOL CALLBACK EnumTasksProc(HWND window, LPARAM taskArray)
     if (!IsEligibleWindow(window)) {
         return TRUE;
     }
-    auto& tasks = *reinterpret_cast<CArray<STaskInfo*>*>(taskArray);
+    auto& tasks = *reinterpret_cast<CTaskRecords*>(taskArray);
     HWND topOwner = TopOwner(window);
     CStr name;
     ChooseTaskName(window, topOwner, name);
@@ -70,7 +70,7 @@ BOOL CALLBACK EnumTasksProc(HWND window, LPARAM taskArray)
     Assert(task != nullptr, ErrorNoMemory, L"EnumTasksProc", __LINE__);
     task->name = name;
     task->window = topOwner;
-    DescribeTask(*task);
+    DescribeTask(*task, tasks.Programs());
     tasks.Append(task);
     return TRUE;
 }

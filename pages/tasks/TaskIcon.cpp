@@ -1,8 +1,7 @@
 // The icon rules of the running applications.
 #include "pages/tasks/TaskIcon.h"
 
-#include "framework/CStr.h"
-#include "lists/IPageHost.h"
+#include "startmenu/CStartPrograms.h"
 
 // Places in the device's image list.
 static constexpr int shellIcon = 7;
@@ -11,7 +10,7 @@ static constexpr int homeIcon = 8;
 static constexpr struct
 {
     const wchar_t* className;
-    KnownApplication slot;
+    KnownProgram slot;
 } knownClasses[] = {
     {L"Calendar", KnownCalendar},
     {L"MSContactsUI", KnownContacts},
@@ -22,14 +21,14 @@ static constexpr struct
     {L"MSINTERNET_SHARING", KnownInternetSharing},
 };
 
-STaskIcon TaskIconForClass(int shellIndex, const wchar_t* className)
+STaskIcon TaskIconForClass(int shellIndex, const wchar_t* className, CStartPrograms& programs)
 {
     if (shellIndex != genericProgramIcon) {
         return {shellIndex, false};
     }
     for (const auto& known : knownClasses) {
         if (_wcsicmp(className, known.className) == 0) {
-            return {IPageHost::Current()->KnownApplicationIcon(known.slot), false};
+            return {programs.KnownIcon(known.slot), false};
         }
     }
     if (_wcsicmp(className, L"Explore") == 0 || _wcsicmp(className, L"MSStart") == 0) {
@@ -41,13 +40,13 @@ STaskIcon TaskIconForClass(int shellIndex, const wchar_t* className)
     return {shellIndex, false};
 }
 
-int TaskIconForPath(int index, const wchar_t* executablePath)
+int TaskIconForPath(int index, const wchar_t* executablePath, CStartPrograms& programs)
 {
     if (index == -1) {
         index = genericProgramIcon;
     }
     if (index == genericProgramIcon && wcsstr(executablePath, L"cprog.exe") != nullptr) {
-        index = IPageHost::Current()->KnownApplicationIcon(KnownPhone);
+        index = programs.KnownIcon(KnownPhone);
     }
     return index == -1 ? genericProgramIcon : index;
 }

@@ -3,6 +3,8 @@
 
 #include "platform/ce.h"
 
+class CStartPrograms;
+
 // The index that the shell gives a program without an icon of its own, as it does to every built-in
 // application hosted by a common program.
 inline constexpr int genericProgramIcon = 2;
@@ -15,6 +17,6 @@ struct STaskIcon
 
 // Replaces the generic program icon by the one that the class of the task's window stands for; any other
 // index stays.
-STaskIcon TaskIconForClass(int shellIndex, const wchar_t* className);
+STaskIcon TaskIconForClass(int shellIndex, const wchar_t* className, CStartPrograms& programs);
 // The last rules: no icon becomes the generic one, and the phone program gets its own.
-int TaskIconForPath(int index, const wchar_t* executablePath);
+int TaskIconForPath(int index, const wchar_t* executablePath, CStartPrograms& programs);

@@ -10,15 +10,6 @@ bool IsEligibleWindow(HWND window)
     return (extended & (WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW)) == 0;
 }
 
-HWND TopOwner(HWND window)
-{
-    HWND top = window;
-    while (HWND owner = GetWindow(top, GW_OWNER)) {
-        top = owner;
-    }
-    return top;
-}
-
 void ChooseTaskName(HWND window, HWND topOwner, CStr& name)
 {
     const bool ownerVisible = IsWindowVisible(topOwner) != FALSE;

@@ -7,8 +7,6 @@
 // Visible, enabled, and neither a tool window nor one that cannot be activated. Looks at the window itself,
 // not at its owner.
 bool IsEligibleWindow(HWND window);
-// The end of the owner chain; the window itself when it has no owner.
-HWND TopOwner(HWND window);
 // The title of a visible top owner, else the window's; where that is empty, the other one's. Cut to 259
 // characters.
 void ChooseTaskName(HWND window, HWND topOwner, CStr& name);

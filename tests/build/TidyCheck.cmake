@@ -1,6 +1,7 @@
 # The program's folders must pass clang-tidy with the project's configuration.
 file(GLOB_RECURSE sources
-    ${ROOT}/framework/*.cpp ${ROOT}/lists/*.cpp ${ROOT}/pages/*.cpp ${ROOT}/keys/*.cpp ${ROOT}/app/*.cpp)
+    ${ROOT}/framework/*.cpp ${ROOT}/lists/*.cpp ${ROOT}/startmenu/*.cpp ${ROOT}/dialogs/*.cpp
+    ${ROOT}/pages/*.cpp ${ROOT}/keys/*.cpp ${ROOT}/app/*.cpp)
 list(LENGTH sources count)
 if(count LESS 20)
     message(FATAL_ERROR "only ${count} source files were found")

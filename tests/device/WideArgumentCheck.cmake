@@ -43,7 +43,8 @@ endif()
 
 # Nor does the program read such an argument itself.
 if(NOT SOURCE)
-    file(GLOB_RECURSE headers ${ROOT}/framework/*.h ${ROOT}/lists/*.h ${ROOT}/pages/*.h ${ROOT}/keys/*.h ${ROOT}/app/*.h
+    file(GLOB_RECURSE headers ${ROOT}/framework/*.h ${ROOT}/lists/*.h ${ROOT}/startmenu/*.h
+        ${ROOT}/dialogs/*.h ${ROOT}/pages/*.h ${ROOT}/keys/*.h ${ROOT}/app/*.h
         ${ROOT}/platform/ce/*.h ${ROOT}/platform/device/*.h)
     foreach(file IN LISTS sources headers)
         file(STRINGS ${file} lines REGEX "va_arg *\\(")

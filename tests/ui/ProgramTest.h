@@ -35,14 +35,11 @@ class ProgramApp : public CApp
     bool OnCreate() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    using CApp::applications;
     using CApp::dialogs;
     using CApp::infoWindow;
-    using CApp::keyCode;
-    using CApp::knownApplications;
+    using CApp::keyPress;
     using CApp::resources;
-    using CApp::shortAction;
-    using CApp::shortFile;
+    using CApp::startPrograms;
     using CApp::views;
 };
 

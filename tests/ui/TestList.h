@@ -14,6 +14,7 @@ class TestList : public CLB_Base
     static constexpr COLORREF background = RGB(250, 240, 230);
 
     int rowHeight = 20;
+    uint32_t records = UINT32_MAX; // as many as are asked for
     std::wstring emptyText;
     std::function<void(HDC, const RECT&, uint32_t, bool)> drawRow;
 
@@ -22,15 +23,12 @@ class TestList : public CLB_Base
     // A row's colour as drawn when drawRow is not set.
     static COLORREF RowColour(uint32_t row) { return RGB(1 + row, 100, 50); }
 
-    using CLB_Base::bufferBitmap;
-    using CLB_Base::bufferDC;
-    using CLB_Base::bufferHeight;
-    using CLB_Base::bufferWidth;
+    using CLB_Base::buffer;
     using CLB_Base::originalProcedure;
-    using CLB_Base::previousBitmap;
 
   protected:
     int RowHeight() const override { return rowHeight; }
+    uint32_t RecordCount() const override { return records; }
     void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) override;
     void EmptyText(CStr& text) const override;
 };

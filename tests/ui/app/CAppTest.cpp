@@ -220,13 +220,13 @@ TEST_F(CAppTest, AKeyCommandSentToTheWindowIsTaken)
         SKeyCommand command = {198, 2, 3, L"\\a.lnk", L""};
         COPYDATASTRUCT copy = {1, sizeof command, &command};
         EXPECT_EQ(SendMessageW(app.MainWindow(), WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&copy)), TRUE);
-        EXPECT_EQ(app.keyCode, 198u);
+        EXPECT_EQ(app.keyPress.vk, 198);
         copy.dwData = 2;
         command.vk = 5;
         EXPECT_EQ(SendMessageW(app.MainWindow(), WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&copy)), TRUE);
-        EXPECT_EQ(app.keyCode, 198u);
-        EXPECT_EQ(app.shortAction, 2u);
-        EXPECT_STREQ(app.shortFile.Buffer(), L"\\a.lnk");
+        EXPECT_EQ(app.keyPress.vk, 198);
+        EXPECT_EQ(app.keyPress.pressAction, 2);
+        EXPECT_STREQ(app.keyPress.pressApplication.Buffer(), L"\\a.lnk");
     });
 }
 
@@ -236,17 +236,17 @@ TEST_F(CAppTest, ItsEndFreesTheProgramsItKnowsAndTheResources)
     SPY(CoUninitialize) uninitialise;
     ProgramApp app;
     app.body = [&] {
-        EXPECT_NE(app.Resources(), nullptr);
+        EXPECT_NE(app.resources, nullptr);
         ASSERT_EQ(initialise.calls.size(), 1u);
         EXPECT_EQ(initialise.calls[0], std::make_tuple(static_cast<void*>(nullptr), DWORD{0}));
         EXPECT_TRUE(uninitialise.calls.empty());
         for (int i = 0; i < 20; i++) {
-            app.applications.Append(new SAppsList);
+            app.startPrograms.Programs().Append(new SAppsList);
         }
     };
     Start(app);
-    EXPECT_EQ(app.applications.Count(), 0u);
-    EXPECT_EQ(app.Resources(), nullptr);
+    EXPECT_EQ(app.startPrograms.Programs().Count(), 0u);
+    EXPECT_EQ(app.resources, nullptr);
     EXPECT_EQ(uninitialise.calls.size(), 1u);
 }
 

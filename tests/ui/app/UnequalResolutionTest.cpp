@@ -1,7 +1,7 @@
 // A screen of unequal resolutions: widths and places across go by the horizontal one, heights by the
 // vertical.
 #include "framework/CVireoDialog.h"
-#include "lists/RowLook.h"
+#include "lists/RowMeasures.h"
 #include "tests/ui/ProgramTest.h"
 
 // The resolutions are read once in a process: all tests of the suite have the same.
@@ -34,7 +34,7 @@ class UnequalResolutionTest : public ProgramTest
 TEST_F(UnequalResolutionTest, HeightsGoByTheVerticalOne)
 {
     InProgram([](ProgramApp& app) {
-        HFONT bold = app.Tasks().BoldFont();
+        HFONT bold = app.Tasks().Look().BoldFont();
         const int line = LineOf(bold);
         EXPECT_EQ(app.Tasks().HeaderHeight(), line + 1 + 8);
         EXPECT_EQ(SingleLineRowHeight(bold, 1), line + 1 + 2);
@@ -83,7 +83,7 @@ TEST_F(UnequalResolutionTest, TheRowsWidthsGoByTheHorizontalOne)
         std::vector<RECT> texts;
         int sizeWidth = 0;
         const SPY(DrawTextW) draw([&](HDC target, const wchar_t* text, int length, RECT* rect, UINT format) {
-            if (GetCurrentObject(target, OBJ_FONT) == page.NormalFont()) {
+            if (GetCurrentObject(target, OBJ_FONT) == page.Look().NormalFont()) {
                 SIZE extent = {};
                 GetTextExtentExPointW(target, text, static_cast<int>(wcslen(text)), 0, nullptr, nullptr,
                                       &extent);
@@ -106,8 +106,8 @@ TEST_F(UnequalResolutionTest, TheRowsWidthsGoByTheHorizontalOne)
         ASSERT_EQ(icon.calls.size(), 1u);
         EXPECT_EQ(std::get<3>(icon.calls[0]), 12);
         ASSERT_EQ(texts.size(), 2u);
-        EXPECT_EQ(texts[0].left, 24 + page.Icons().width);
-        EXPECT_EQ(texts[1].left, 24 + page.Icons().width);
+        EXPECT_EQ(texts[0].left, 24 + page.Look().Icons().width);
+        EXPECT_EQ(texts[1].left, 24 + page.Look().Icons().width);
         EXPECT_EQ(texts[1].right, texts[0].right - sizeWidth - 6);
         ASSERT_FALSE(strips.empty());
         EXPECT_EQ(strips[0], 3) << "the strips between the rows too";

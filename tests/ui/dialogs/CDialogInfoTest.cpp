@@ -1,5 +1,5 @@
 // The information dialog.
-#include "keys/CDialogInfo.h"
+#include "dialogs/CDialogInfo.h"
 #include "tests/support/TestHeap.h"
 #include "tests/ui/ProgramTest.h"
 

@@ -1,5 +1,5 @@
 // The tree of a process's windows.
-#include "keys/CDialogWindows.h"
+#include "dialogs/CDialogWindows.h"
 #include "tests/ui/ProgramTest.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // The keys of the information dialog, as a user presses them.
-#include "keys/CDialogInfo.h"
+#include "dialogs/CDialogInfo.h"
 #include "tests/ui/ProgramTest.h"
 
 class InformationKeysTest : public ProgramTest

@@ -215,10 +215,10 @@ TEST_F(CLBBaseTest, ASizeGoesToTheControlFirstAndItsResultIsReturned)
 TEST_F(CLBBaseTest, TheBackBufferIsReplacedOnlyByOneOfAnotherSize)
 {
     Construct();
-    EXPECT_EQ(list.bufferDC, nullptr);
+    EXPECT_EQ(list.buffer.DC(), nullptr);
     Resize(70, 50);
-    HDC dc = list.bufferDC;
-    HBITMAP bitmap = list.bufferBitmap;
+    HDC dc = list.buffer.DC();
+    HBITMAP bitmap = list.buffer.Bitmap();
     HGDIOBJ previous = list.previousBitmap;
     ASSERT_NE(dc, nullptr);
     BITMAP fields = {};
@@ -227,12 +227,12 @@ TEST_F(CLBBaseTest, TheBackBufferIsReplacedOnlyByOneOfAnotherSize)
     EXPECT_EQ(fields.bmHeight, 50);
     EXPECT_EQ(GetCurrentObject(dc, OBJ_BITMAP), bitmap);
     Resize(70, 50);
-    EXPECT_EQ(list.bufferDC, dc);
-    EXPECT_EQ(list.bufferBitmap, bitmap);
+    EXPECT_EQ(list.buffer.DC(), dc);
+    EXPECT_EQ(list.buffer.Bitmap(), bitmap);
 
     for (const SIZE size : {SIZE{71, 50}, SIZE{71, 51}}) {
-        dc = list.bufferDC;
-        bitmap = list.bufferBitmap;
+        dc = list.buffer.DC();
+        bitmap = list.buffer.Bitmap();
         const SPY(SelectObject) select;
         const SPY(DeleteObject) deleteObject;
         const SPY(DeleteDC) deleteDC;
@@ -244,11 +244,11 @@ TEST_F(CLBBaseTest, TheBackBufferIsReplacedOnlyByOneOfAnotherSize)
         ASSERT_EQ(deleteDC.calls.size(), 1U);
         EXPECT_EQ(std::get<0>(deleteDC.calls[0]), dc);
         previous = list.previousBitmap;
-        GetObjectW(list.bufferBitmap, sizeof fields, &fields);
+        GetObjectW(list.buffer.Bitmap(), sizeof fields, &fields);
         EXPECT_EQ(fields.bmWidth, size.cx);
         EXPECT_EQ(fields.bmHeight, size.cy);
-        EXPECT_EQ(list.bufferWidth, size.cx);
-        EXPECT_EQ(list.bufferHeight, size.cy);
+        EXPECT_EQ(list.buffer.Width(), size.cx);
+        EXPECT_EQ(list.buffer.Height(), size.cy);
     }
 }
 
@@ -260,7 +260,7 @@ TEST_F(CLBBaseTest, ErasingIsLeftToTheBackBuffer)
     EXPECT_EQ(SendMessageW(list.Window(), WM_ERASEBKGND, reinterpret_cast<WPARAM>(screen), 0), 1);
     ReleaseDC(list.Window(), screen);
     EXPECT_TRUE(TakeEvents().empty());
-    list.EraseLikeList(list.bufferDC);
+    list.EraseLikeList(list.buffer.DC());
     EXPECT_EQ(TakeEvents(), (Events{"original erase"}));
 }
 

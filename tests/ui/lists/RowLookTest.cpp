@@ -1,6 +1,6 @@
 // What single-line rows have in common: their height, colours, icon and texts.
 // profiles: pocketpc pocketpc-vga
-#include "lists/RowLook.h"
+#include "lists/RowMeasures.h"
 #include "framework/Gdi.h"
 #include "lists/CRowPainter.h"
 #include "tests/ui/Pixels.h"

@@ -1,7 +1,7 @@
 // CListPage: what a page adds to its list.
 // profiles: pocketpc pocketpc-vga
-#include "lists/CListPage.h"
-#include "lists/RowLook.h"
+#include "pages/CListPage.h"
+#include "lists/RowMeasures.h"
 #include "resources/ids.h"
 #include "tests/ui/TestList.h"
 #include "tests/ui/UiTest.h"
@@ -9,7 +9,7 @@
 class CListPageTest : public UiTest
 {
   protected:
-    static constexpr SPageTraits ownTraits = {L"A page", CMD_SHOW_START, PageTasks, PageProcs, 0, 2, 0};
+    static constexpr SPageTraits ownTraits = {0, 2, 0};
 
     class Page : public CListPage
     {
@@ -74,9 +74,9 @@ TEST_F(CListPageTest, TheListLiesBelowTheStripFromTheStart)
 {
     WithPage([](TestApp& app, Page& page) {
         const SIZE client = ClientSize(app.MainWindow());
-        EXPECT_EQ(page.HeaderHeight(), TitleStripHeight(page.BoldFont()));
+        EXPECT_EQ(page.HeaderHeight(), TitleStripHeight(page.Look().BoldFont()));
         EXPECT_EQ(InPage(page, page.list.Window()), (RECT{0, page.HeaderHeight(), client.cx, client.cy}));
-        EXPECT_NE(page.list.bufferDC, nullptr);
+        EXPECT_NE(page.list.buffer.DC(), nullptr);
     });
 }
 
@@ -184,16 +184,16 @@ TEST_F(CListPageTest, ThePageDrawsItsTitleInBold)
         const SPY(DrawTextW) draw([&](HDC target, const wchar_t* text, int length, RECT* rect, UINT format) {
             title = text;
             EXPECT_EQ(format, 0x8024U);
-            EXPECT_EQ(GetCurrentObject(target, OBJ_FONT), static_cast<HGDIOBJ>(page.BoldFont()));
+            EXPECT_EQ(GetCurrentObject(target, OBJ_FONT), static_cast<HGDIOBJ>(page.Look().BoldFont()));
             return draw.Real(target, text, length, rect, format);
         });
         const RECT strip = {0, 0, 500, page.HeaderHeight()};
         InvalidateRect(page.Window(), &strip, FALSE);
         UpdateWindow(page.Window());
         EXPECT_EQ(draw.calls.size(), 1U);
-        EXPECT_EQ(title, L"A page");
+        EXPECT_EQ(title, L"Start");
         LOGFONTW font = {};
-        GetObjectW(page.BoldFont(), sizeof font, &font);
+        GetObjectW(page.Look().BoldFont(), sizeof font, &font);
         EXPECT_EQ(font.lfWeight, FW_BOLD);
     });
 }

@@ -1,8 +1,8 @@
 // The title strip: its erasing, its line, its arrowheads and its title, pixel by pixel.
 // profiles: pocketpc pocketpc-vga
-#include "lists/TitleStrip.h"
+#include "pages/TitleStrip.h"
 #include "framework/Gdi.h"
-#include "lists/RowLook.h"
+#include "lists/RowMeasures.h"
 #include "tests/ui/Pixels.h"
 #include "tests/ui/TestList.h"
 #include "tests/ui/UiTest.h"

@@ -1,5 +1,5 @@
 // The plain-text report on a window.
-#include "pages/tasks/WindowReport.h"
+#include "dialogs/WindowReport.h"
 #include "tests/unit/ScriptedWindows.h"
 
 #include <gtest/gtest.h>

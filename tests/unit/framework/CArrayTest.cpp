@@ -2,7 +2,7 @@
 #include "framework/CArray.h"
 #include "framework/CStrList.h"
 #include "framework/CVireoApp.h"
-#include "lists/SAppsList.h"
+#include "startmenu/SAppsList.h"
 #include "pages/tasks/STaskInfo.h"
 #include "tests/support/Fatal.h"
 #include "tests/support/TestHeap.h"

@@ -17,7 +17,7 @@ static DWORD WINAPI GiveModulePath(HMODULE module, wchar_t* path, DWORD size)
 TEST(CFileUtilsTest, TheFolderIsTheModulePathUpToItsLastBackslash)
 {
     const ImportHook hook("GetModuleFileNameW", GiveModulePath);
-    CStr path(CFileUtils::pathSize);
+    CStr path(pathSize);
     modulePath = L"\\Program Files\\Quorvane\\Quorvane.exe";
     CFileUtils::MakeAppFolderPath(path);
     EXPECT_STREQ(L"\\Program Files\\Quorvane\\", path);
@@ -31,7 +31,7 @@ TEST(CFileUtilsTest, TheFolderIsTheModulePathUpToItsLastBackslash)
 TEST(CFileUtilsTest, AModulePathWithoutABackslashIsFatal)
 {
     const ImportHook hook("GetModuleFileNameW", GiveModulePath);
-    CStr path(CFileUtils::pathSize);
+    CStr path(pathSize);
     path = L"\\left from before\\";
     modulePath = L"Quorvane.exe";
     EXPECT_FATAL(CFileUtils::MakeAppFolderPath(path), L"CFileUtils::MakeAppFolderPath", L"Not found");
@@ -60,10 +60,10 @@ TEST(CFileUtilsTest, TheCurrentDirectoryHasNoInfluence)
     const TempFolder folder;
     wchar_t before[MAX_PATH];
     GetCurrentDirectoryW(MAX_PATH, before);
-    CStr path(CFileUtils::pathSize);
+    CStr path(pathSize);
     CFileUtils::MakeAppFilePath(path, L"file.zrs");
     ASSERT_TRUE(SetCurrentDirectoryW(folder.Folder().c_str()));
-    CStr elsewhere(CFileUtils::pathSize);
+    CStr elsewhere(pathSize);
     CFileUtils::MakeAppFilePath(elsewhere, L"file.zrs");
     EXPECT_STREQ(path, elsewhere);
     wchar_t real[MAX_PATH];

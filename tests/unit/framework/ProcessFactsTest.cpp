@@ -1,5 +1,5 @@
 // What the pages ask about a process.
-#include "pages/ProcessFacts.h"
+#include "framework/ProcessFacts.h"
 #include "tests/unit/ScriptedHeaps.h"
 #include "tests/unit/ScriptedWindows.h"
 

@@ -11,11 +11,7 @@
 class KeyApp : public CApp
 {
   public:
-    using CApp::keyCode;
-    using CApp::longAction;
-    using CApp::longFile;
-    using CApp::shortAction;
-    using CApp::shortFile;
+    using CApp::keyPress;
     using CApp::startMinimised;
 
     LRESULT Copy(ULONG_PTR kind, DWORD size, const void* data)
@@ -150,15 +146,15 @@ TEST_F(KeyCommandTest, TheFirstInstanceStartsMinimisedWhenAButtonStartedIt)
 {
     EXPECT_TRUE(app.CheckPrevInstance(nullptr, L"193 3*\\x.lnk"));
     EXPECT_TRUE(app.startMinimised);
-    EXPECT_EQ(app.keyCode, 193u);
-    EXPECT_EQ(app.shortAction, 3u);
-    EXPECT_EQ(app.longAction, 2u);
-    EXPECT_STREQ(app.shortFile.Buffer(), L"");
-    EXPECT_STREQ(app.longFile.Buffer(), L"\\x.lnk");
+    EXPECT_EQ(app.keyPress.vk, 193);
+    EXPECT_EQ(app.keyPress.pressAction, 3);
+    EXPECT_EQ(app.keyPress.holdAction, 2);
+    EXPECT_STREQ(app.keyPress.pressApplication.Buffer(), L"");
+    EXPECT_STREQ(app.keyPress.holdApplication.Buffer(), L"\\x.lnk");
     KeyApp normal;
     EXPECT_TRUE(normal.CheckPrevInstance(nullptr, L"193 3"));
     EXPECT_FALSE(normal.startMinimised);
-    EXPECT_EQ(normal.keyCode, 0u);
+    EXPECT_EQ(normal.keyPress.vk, 0);
     EXPECT_EQ(sends, 0);
     EXPECT_EQ(broughtForward, nullptr);
 }
@@ -167,11 +163,11 @@ TEST_F(KeyCommandTest, ARecordIsTaken)
 {
     SKeyCommand command = {198, 3, 2, L"\\a.lnk", L"\\b.lnk"};
     EXPECT_EQ(app.Copy(1, sizeof command, &command), TRUE);
-    EXPECT_EQ(app.keyCode, 198u);
-    EXPECT_EQ(app.shortAction, 3u);
-    EXPECT_EQ(app.longAction, 2u);
-    EXPECT_STREQ(app.shortFile.Buffer(), L"\\a.lnk");
-    EXPECT_STREQ(app.longFile.Buffer(), L"\\b.lnk");
+    EXPECT_EQ(app.keyPress.vk, 198);
+    EXPECT_EQ(app.keyPress.pressAction, 3);
+    EXPECT_EQ(app.keyPress.holdAction, 2);
+    EXPECT_STREQ(app.keyPress.pressApplication.Buffer(), L"\\a.lnk");
+    EXPECT_STREQ(app.keyPress.holdApplication.Buffer(), L"\\b.lnk");
 }
 
 TEST_F(KeyCommandTest, UnterminatedTextsEndAfter255Characters)
@@ -180,8 +176,8 @@ TEST_F(KeyCommandTest, UnterminatedTextsEndAfter255Characters)
     wmemset(command.pressApplication, L'p', 256);
     wmemset(command.holdApplication, L'h', 256);
     EXPECT_EQ(app.Copy(1, sizeof command, &command), TRUE);
-    EXPECT_EQ(std::wstring(app.shortFile), std::wstring(255, L'p'));
-    EXPECT_EQ(std::wstring(app.longFile), std::wstring(255, L'h'));
+    EXPECT_EQ(std::wstring(app.keyPress.pressApplication), std::wstring(255, L'p'));
+    EXPECT_EQ(std::wstring(app.keyPress.holdApplication), std::wstring(255, L'h'));
 }
 
 // Nothing behind the size that was told may be read.
@@ -200,11 +196,11 @@ TEST_F(KeyCommandTest, ForeignRecordsAreAnsweredAndIgnored)
     EXPECT_EQ(app.Copy(1, sizeof command, nullptr), TRUE);
     EXPECT_EQ(app.Copy(1, 0, nullptr), TRUE);
     EXPECT_EQ(app.WindowProc(WM_COPYDATA, 0, 0), TRUE);
-    EXPECT_EQ(app.keyCode, 193u);
-    EXPECT_EQ(app.shortAction, 2u);
-    EXPECT_EQ(app.longAction, 2u);
-    EXPECT_STREQ(app.shortFile.Buffer(), L"\\s");
-    EXPECT_STREQ(app.longFile.Buffer(), L"\\l");
+    EXPECT_EQ(app.keyPress.vk, 193);
+    EXPECT_EQ(app.keyPress.pressAction, 2);
+    EXPECT_EQ(app.keyPress.holdAction, 2);
+    EXPECT_STREQ(app.keyPress.pressApplication.Buffer(), L"\\s");
+    EXPECT_STREQ(app.keyPress.holdApplication.Buffer(), L"\\l");
 }
 
 static int defaults;

@@ -260,10 +260,10 @@ TEST_F(CViewTasksCommandTest, InfoAndWindowsListOfATaskThatHasGoneGiveANotice)
 TEST_F(CViewTasksCommandTest, TheReportOnNoWindowIsNone)
 {
     InProgram([&](ProgramApp& app) {
-        CViewTasks::ShowWindowReport(reinterpret_cast<HWND>(-1));
+        ShowWindowReport(reinterpret_cast<HWND>(-1));
         EXPECT_EQ(app.dialogs->Count(), 0u);
         EXPECT_EQ(Notice(app), L"");
-        CViewTasks::ShowWindowReport(nullptr);
+        ShowWindowReport(nullptr);
         EXPECT_EQ(Notice(app), L"Window is no longer exists.");
     });
 }

@@ -1,7 +1,7 @@
 // The page of the running applications: its list, and which row stays selected.
 // profiles: pocketpc pocketpc-vga smartphone
 #include "framework/Scale.h"
-#include "lists/RowLook.h"
+#include "lists/RowMeasures.h"
 #include "resources/ids.h"
 #include "tests/support/Fatal.h"
 #include "tests/support/TestHeap.h"
@@ -74,8 +74,8 @@ TEST_F(CViewTasksListTest, TheFontsAreTheSystemFontBoldAndTwoSmaller)
 {
     InProgram([](ProgramApp& app) {
         const LOGFONTW system = FontOf(GetStockObject(SYSTEM_FONT));
-        const LOGFONTW bold = FontOf(app.Tasks().BoldFont());
-        const LOGFONTW normal = FontOf(app.Tasks().NormalFont());
+        const LOGFONTW bold = FontOf(app.Tasks().Look().BoldFont());
+        const LOGFONTW normal = FontOf(app.Tasks().Look().NormalFont());
         EXPECT_EQ(bold.lfWeight, 700);
         EXPECT_EQ(bold.lfHeight, system.lfHeight);
         EXPECT_EQ(normal.lfWeight, 400);
@@ -91,7 +91,7 @@ TEST_F(CViewTasksListTest, TheStripIsALineOfBoldTextAndNinePixelsHigh)
     InProgram([](ProgramApp& app) {
         TEXTMETRICW metrics = {};
         HDC screen = GetDC(nullptr);
-        HGDIOBJ previous = SelectObject(screen, app.Tasks().BoldFont());
+        HGDIOBJ previous = SelectObject(screen, app.Tasks().Look().BoldFont());
         GetTextMetricsW(screen, &metrics);
         SelectObject(screen, previous);
         const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
@@ -104,7 +104,7 @@ TEST_F(CViewTasksListTest, TheStripIsALineOfBoldTextAndNinePixelsHigh)
         EXPECT_EQ(SendMessageW(app.Tasks().Window(), WM_MEASUREITEM, 110, reinterpret_cast<LPARAM>(&measure)),
                   TRUE);
         const int text = line + (dpi + 48) / 96 + (2 * dpi + 48) / 96;
-        const int icon = app.Tasks().Icons().height + (4 * dpi + 48) / 96;
+        const int icon = app.Tasks().Look().Icons().height + (4 * dpi + 48) / 96;
         EXPECT_EQ(static_cast<int>(measure.itemHeight), text > icon ? text : icon);
     });
 }
@@ -131,14 +131,14 @@ TEST_F(CViewTasksListTest, TheIconsAreTheSystemsSmallOnes)
     InProgram([&](ProgramApp& app) {
         SHFILEINFOW root = {};
         const DWORD_PTR list = SHGetFileInfo(L"\\", 0, &root, sizeof root, 0x4001);
-        EXPECT_EQ(app.Tasks().Icons().list, reinterpret_cast<HIMAGELIST>(list));
-        EXPECT_EQ(app.Tasks().Icons().rootIcon, root.iIcon);
+        EXPECT_EQ(app.Tasks().Look().Icons().list, reinterpret_cast<HIMAGELIST>(list));
+        EXPECT_EQ(app.Tasks().Look().Icons().rootIcon, root.iIcon);
         int width = 0;
         int height = 0;
-        ImageList_GetIconSize(app.Tasks().Icons().list, &width, &height);
-        EXPECT_EQ(app.Tasks().Icons().width, width);
-        EXPECT_EQ(app.Tasks().Icons().height, height);
-        EXPECT_EQ(app.Tasks().Icons().LargeSize(), width < 17 ? 32 : 48);
+        ImageList_GetIconSize(app.Tasks().Look().Icons().list, &width, &height);
+        EXPECT_EQ(app.Tasks().Look().Icons().width, width);
+        EXPECT_EQ(app.Tasks().Look().Icons().height, height);
+        EXPECT_EQ(app.Tasks().Look().Icons().LargeSize(), width < 17 ? 32 : 48);
         ASSERT_FALSE(asked.empty());
         EXPECT_EQ(asked[0], (std::pair<std::wstring, UINT>{L"\\", 0x4001}));
     });

@@ -96,16 +96,16 @@ TEST_F(CViewTasksPaintTest, ARowIsItsHeapSizeInTheNormalFontAndItsNameInTheBold)
         const_cast<STaskInfo&>(app.Tasks().Task(0)).heapBytes = 1536;
         Draw(app, 0);
         ASSERT_EQ(texts.size(), 2u);
-        const LONG left = row.left + SX(8) + app.Tasks().Icons().width;
+        const LONG left = row.left + SX(8) + app.Tasks().Look().Icons().width;
         EXPECT_EQ(texts[0].text, L"1.50 KB");
         EXPECT_EQ(texts[0].flags, 0x8026u);
         EXPECT_EQ(texts[0].rect, (RECT{left, row.top, row.right, row.bottom}));
-        EXPECT_EQ(texts[0].font, app.Tasks().NormalFont());
+        EXPECT_EQ(texts[0].font, app.Tasks().Look().NormalFont());
         EXPECT_EQ(texts[1].text, L"100% & \"Notes\" Проводник");
         EXPECT_EQ(texts[1].flags, 0x8024u);
-        const LONG right = row.right - WidthOf(app.Tasks().NormalFont(), L"1.50 KB") - SX(2);
+        const LONG right = row.right - WidthOf(app.Tasks().Look().NormalFont(), L"1.50 KB") - SX(2);
         EXPECT_EQ(texts[1].rect, (RECT{left, row.top, right, row.bottom}));
-        EXPECT_EQ(texts[1].font, app.Tasks().BoldFont());
+        EXPECT_EQ(texts[1].font, app.Tasks().Look().BoldFont());
         for (const DrawnText& each : texts) {
             EXPECT_EQ(each.colour, GetSysColor(COLOR_WINDOWTEXT));
             EXPECT_EQ(each.mode, TRANSPARENT);
@@ -159,10 +159,10 @@ TEST_F(CViewTasksPaintTest, TheListsIconIsInTheMiddleOfTheRow)
         Draw(app, 0);
         ASSERT_EQ(image.calls.size(), 1u);
         const auto& [list, index, dc, x, y, style] = image.calls[0];
-        EXPECT_EQ(list, app.Tasks().Icons().list);
+        EXPECT_EQ(list, app.Tasks().Look().Icons().list);
         EXPECT_EQ(index, app.Tasks().Task(0).iconIndex);
         EXPECT_EQ(x, row.left + SX(4));
-        EXPECT_EQ(y, row.top + (50 - app.Tasks().Icons().height) / 2);
+        EXPECT_EQ(y, row.top + (50 - app.Tasks().Look().Icons().height) / 2);
         EXPECT_EQ(style, static_cast<UINT>(ILD_NORMAL));
         EXPECT_NE(dc, nullptr);
     });
@@ -180,7 +180,7 @@ TEST_F(CViewTasksPaintTest, ARecordsOwnIconIsDrawnInItsPlace)
         EXPECT_TRUE(image.calls.empty());
         ASSERT_EQ(drawIcon.calls.size(), 1u);
         EXPECT_EQ(std::get<1>(drawIcon.calls[0]), row.left + SX(4));
-        EXPECT_EQ(std::get<2>(drawIcon.calls[0]), row.top + (50 - app.Tasks().Icons().height) / 2);
+        EXPECT_EQ(std::get<2>(drawIcon.calls[0]), row.top + (50 - app.Tasks().Look().Icons().height) / 2);
         EXPECT_EQ(std::get<3>(drawIcon.calls[0]), icon);
         EXPECT_EQ(std::get<8>(drawIcon.calls[0]), static_cast<UINT>(DI_NORMAL));
     });
@@ -232,7 +232,7 @@ TEST_F(CViewTasksPaintTest, TheTitleStandsBetweenTheArrows)
         EXPECT_EQ(drawn[0].text, L"Running applications");
         EXPECT_EQ(drawn[0].flags, 0x8024u);
         EXPECT_EQ(drawn[0].rect, (RECT{inset, 0, ClientSize(page).cx - inset, height}));
-        EXPECT_EQ(drawn[0].font, app.Tasks().BoldFont());
+        EXPECT_EQ(drawn[0].font, app.Tasks().Look().BoldFont());
         EXPECT_EQ(drawn[0].colour, GetSysColor(COLOR_WINDOWTEXT));
         EXPECT_EQ(drawn[0].mode, TRANSPARENT);
     });

@@ -6,9 +6,9 @@ class TaskRecordsTest : public ProgramTest
 {
   protected:
     // The array that the last enumeration filled.
-    CArray<STaskInfo*>& Array()
+    CTaskRecords& Array()
     {
-        return *reinterpret_cast<CArray<STaskInfo*>*>(std::get<1>(enumWindows.calls.back()));
+        return *reinterpret_cast<CTaskRecords*>(std::get<1>(enumWindows.calls.back()));
     }
 
     void AddTasks(int count)

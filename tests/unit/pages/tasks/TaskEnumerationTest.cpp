@@ -15,16 +15,7 @@ class TaskEnumerationTest : public testing::Test
     ScriptedWindows windows;
     ScriptedHeaps heaps;
     ScriptedIcons icons;
-    CArray<STaskInfo*> tasks{10};
-
-    ~TaskEnumerationTest() override { Clear(); }
-
-    void Clear()
-    {
-        for (uint32_t i = 0; i < tasks.Count(); i++)
-            delete tasks.At(i);
-        tasks.Delete(0, tasks.Count());
-    }
+    CTaskRecords tasks{host.programs};
 
     HWND Add(const wchar_t* title, HWND owner = nullptr)
     {
@@ -51,7 +42,7 @@ class TaskEnumerationTest : public testing::Test
     // The one record of a window of this class whose program has this icon.
     STaskInfo& TaskOf(const wchar_t* className, int shellIcon, const wchar_t* path = L"\\Windows\\shell.exe")
     {
-        Clear();
+        tasks.Clear();
         ScriptedWindow window;
         window.title = L"Title";
         window.className = className;
@@ -228,7 +219,7 @@ TEST_F(TaskEnumerationTest, AProcessWhoseHeapsCannotBeWalkedHasNone)
     STaskInfo& task = TaskOf(L"Word", 5);
     EXPECT_EQ(task.heapBytes, 1024u);
     heaps.processes.clear();
-    Clear();
+    tasks.Clear();
     EnumTasksProc(windows.order[0], reinterpret_cast<LPARAM>(&tasks));
     EXPECT_EQ(tasks.At(0)->heapBytes, 0u);
 }
@@ -247,11 +238,11 @@ TEST_F(TaskEnumerationTest, AProgramWithoutAnIconGetsTheGenericOne)
 
 TEST_F(TaskEnumerationTest, AHostedApplicationHasItsStartMenuIcon)
 {
-    host.knownIcons[1] = 31;
+    host.SetKnownIcon(1, 31);
     EXPECT_EQ(TaskOf(L"Calendar", 2).iconIndex, 31);
-    host.knownIcons[1] = -1;
+    host.SetKnownIcon(1, -1);
     EXPECT_EQ(TaskOf(L"Calendar", 2).iconIndex, 2);
-    host.knownIcons[5] = 35;
+    host.SetKnownIcon(5, 35);
     EXPECT_EQ(TaskOf(L"Calendar", 2, L"\\Windows\\cprog.exe").iconIndex, 35)
         << "none, so the program decides";
     EXPECT_EQ(TaskOf(L"Dialer", 2, L"\\Windows\\cprog.exe").iconIndex, 35);
@@ -261,7 +252,7 @@ TEST_F(TaskEnumerationTest, AHostedApplicationHasItsStartMenuIcon)
 
 TEST_F(TaskEnumerationTest, TheClassIsThatOfTheTopOwner)
 {
-    host.knownIcons[1] = 31;
+    host.SetKnownIcon(1, 31);
     HWND top = Add(L"Calendar");
     windows.windows[top].className = L"Dialog";
     windows.windows[top].processId = 42;
@@ -277,7 +268,7 @@ TEST_F(TaskEnumerationTest, TheShellIsListedWithoutAHeapFigure)
 {
     for (const wchar_t* className : {L"Explore", L"MSStart"}) {
         heaps.snapshots.clear();
-        host.knownIcons[5] = 35;
+        host.SetKnownIcon(5, 35);
         const STaskInfo& task = TaskOf(className, 2, L"\\Windows\\cprog.exe");
         EXPECT_EQ(task.iconIndex, 7);
         EXPECT_EQ(task.heapBytes, 0u);
@@ -298,7 +289,7 @@ TEST_F(TaskEnumerationTest, WindowsThatVanishAtAnyMomentDoNoHarm)
 {
     const auto all = windows.windows;
     for (int questions = 0; questions < 60; questions++) {
-        Clear();
+        tasks.Clear();
         HWND top = Add(L"Word");
         Add(L"Open", top);
         windows.lifeInQuestions = questions;
@@ -327,7 +318,7 @@ TEST_F(TaskEnumerationTest, ARecordIsAllThatIsAllocated)
     for (HWND window : windows.order)
         EnumTasksProc(window, reinterpret_cast<LPARAM>(&tasks));
     const size_t during = LiveBlocks();
-    Clear();
+    tasks.Clear();
     EXPECT_GT(during, before);
     EXPECT_EQ(LiveBlocks(), before);
 }

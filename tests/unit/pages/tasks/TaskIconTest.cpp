@@ -8,7 +8,7 @@
 static void InstallAll(TestHost& host)
 {
     for (int slot = 0; slot < 8; slot++)
-        host.knownIcons[slot] = 100 + slot;
+        host.SetKnownIcon(static_cast<uint32_t>(slot), 100 + slot);
 }
 
 static const struct
@@ -23,10 +23,9 @@ TEST(TaskIconTest, AGenericIconIsReplacedByTheKnownApplicationsOfItsClass)
     TestHost host;
     InstallAll(host);
     for (const auto& each : known) {
-        const STaskIcon icon = TaskIconForClass(2, each.className);
+        const STaskIcon icon = TaskIconForClass(2, each.className, host.programs);
         EXPECT_EQ(icon.index, 100 + static_cast<int>(each.slot)) << each.className;
         EXPECT_FALSE(icon.final) << each.className;
-        EXPECT_EQ(host.askedSlots.back(), each.slot);
     }
 }
 
@@ -34,29 +33,29 @@ TEST(TaskIconTest, ClassesAreComparedWithoutCase)
 {
     TestHost host;
     InstallAll(host);
-    EXPECT_EQ(TaskIconForClass(2, L"cALENDAR").index, 101);
-    EXPECT_EQ(TaskIconForClass(2, L"mscontactsui").index, 100);
-    EXPECT_EQ(TaskIconForClass(2, L"TASKS APPLICATION").index, 102);
-    EXPECT_EQ(TaskIconForClass(2, L"notes.mainwnd").index, 107);
-    EXPECT_EQ(TaskIconForClass(2, L"PicturesApp").index, 104);
-    EXPECT_EQ(TaskIconForClass(2, L"MSInternet_Sharing").index, 106);
-    EXPECT_EQ(TaskIconForClass(2, L"EXPLORE").index, 7);
-    EXPECT_EQ(TaskIconForClass(2, L"msstart").index, 7);
-    EXPECT_EQ(TaskIconForClass(2, L"DESKTOPEXPLORERWINDOW").index, 8);
+    EXPECT_EQ(TaskIconForClass(2, L"cALENDAR", host.programs).index, 101);
+    EXPECT_EQ(TaskIconForClass(2, L"mscontactsui", host.programs).index, 100);
+    EXPECT_EQ(TaskIconForClass(2, L"TASKS APPLICATION", host.programs).index, 102);
+    EXPECT_EQ(TaskIconForClass(2, L"notes.mainwnd", host.programs).index, 107);
+    EXPECT_EQ(TaskIconForClass(2, L"PicturesApp", host.programs).index, 104);
+    EXPECT_EQ(TaskIconForClass(2, L"MSInternet_Sharing", host.programs).index, 106);
+    EXPECT_EQ(TaskIconForClass(2, L"EXPLORE", host.programs).index, 7);
+    EXPECT_EQ(TaskIconForClass(2, L"msstart", host.programs).index, 7);
+    EXPECT_EQ(TaskIconForClass(2, L"DESKTOPEXPLORERWINDOW", host.programs).index, 8);
 }
 
 TEST(TaskIconTest, TheShellsWindowsHaveFixedIconsAndAreDone)
 {
     TestHost host;
+    InstallAll(host);
     for (const wchar_t* className : {L"Explore", L"MSStart"}) {
-        const STaskIcon icon = TaskIconForClass(2, className);
+        const STaskIcon icon = TaskIconForClass(2, className, host.programs);
         EXPECT_EQ(icon.index, 7) << className;
         EXPECT_TRUE(icon.final) << className;
     }
-    const STaskIcon home = TaskIconForClass(2, L"DesktopExplorerWindow");
+    const STaskIcon home = TaskIconForClass(2, L"DesktopExplorerWindow", host.programs);
     EXPECT_EQ(home.index, 8);
     EXPECT_FALSE(home.final);
-    EXPECT_TRUE(host.askedSlots.empty());
 }
 
 TEST(TaskIconTest, AnyOtherClassKeepsTheGenericIcon)
@@ -65,10 +64,9 @@ TEST(TaskIconTest, AnyOtherClassKeepsTheGenericIcon)
     InstallAll(host);
     for (const wchar_t* className :
          {L"", L"Calendar ", L"Calenda", L"TasksApplication", L"Notes", L"Explorer"}) {
-        EXPECT_EQ(TaskIconForClass(2, className).index, 2) << className;
-        EXPECT_FALSE(TaskIconForClass(2, className).final) << className;
+        EXPECT_EQ(TaskIconForClass(2, className, host.programs).index, 2) << className;
+        EXPECT_FALSE(TaskIconForClass(2, className, host.programs).final) << className;
     }
-    EXPECT_TRUE(host.askedSlots.empty());
 }
 
 TEST(TaskIconTest, AnyOtherIconIsLeftAloneWhateverTheClass)
@@ -78,36 +76,34 @@ TEST(TaskIconTest, AnyOtherIconIsLeftAloneWhateverTheClass)
     for (const int index : {-1, 0, 1, 3, 7, 8, 1000}) {
         for (const wchar_t* className :
              {L"Calendar", L"Explore", L"MSStart", L"DesktopExplorerWindow", L"Word"}) {
-            EXPECT_EQ(TaskIconForClass(index, className).index, index) << className;
-            EXPECT_FALSE(TaskIconForClass(index, className).final) << className;
+            EXPECT_EQ(TaskIconForClass(index, className, host.programs).index, index) << className;
+            EXPECT_FALSE(TaskIconForClass(index, className, host.programs).final) << className;
         }
     }
-    EXPECT_TRUE(host.askedSlots.empty());
 }
 
 TEST(TaskIconTest, AKnownApplicationThatIsNotInstalledGivesNone)
 {
     TestHost host;
-    EXPECT_EQ(TaskIconForClass(2, L"Calendar").index, -1);
+    EXPECT_EQ(TaskIconForClass(2, L"Calendar", host.programs).index, -1);
 }
 
 TEST(TaskIconTest, NoIconBecomesTheGenericOne)
 {
     TestHost host;
-    EXPECT_EQ(TaskIconForPath(-1, L"\\Windows\\pword.exe"), 2);
-    EXPECT_EQ(TaskIconForPath(2, L"\\Windows\\pword.exe"), 2);
-    EXPECT_TRUE(host.askedSlots.empty());
+    InstallAll(host);
+    EXPECT_EQ(TaskIconForPath(-1, L"\\Windows\\pword.exe", host.programs), 2);
+    EXPECT_EQ(TaskIconForPath(2, L"\\Windows\\pword.exe", host.programs), 2);
 }
 
 TEST(TaskIconTest, ThePhoneProgramHasThePhonesIcon)
 {
     TestHost host;
     InstallAll(host);
-    EXPECT_EQ(TaskIconForPath(2, L"\\Windows\\cprog.exe"), 105);
-    EXPECT_EQ(TaskIconForPath(-1, L"\\Windows\\cprog.exe"), 105);
-    EXPECT_EQ(TaskIconForPath(2, L"cprog.exe"), 105);
-    EXPECT_EQ(TaskIconForPath(2, L"\\my cprog.exe.old\\x"), 105);
-    EXPECT_EQ(host.askedSlots, (std::vector<uint32_t>{5, 5, 5, 5}));
+    EXPECT_EQ(TaskIconForPath(2, L"\\Windows\\cprog.exe", host.programs), 105);
+    EXPECT_EQ(TaskIconForPath(-1, L"\\Windows\\cprog.exe", host.programs), 105);
+    EXPECT_EQ(TaskIconForPath(2, L"cprog.exe", host.programs), 105);
+    EXPECT_EQ(TaskIconForPath(2, L"\\my cprog.exe.old\\x", host.programs), 105);
 }
 
 TEST(TaskIconTest, ThePhoneProgramIsRecognisedByItsExactLetters)
@@ -116,7 +112,7 @@ TEST(TaskIconTest, ThePhoneProgramIsRecognisedByItsExactLetters)
     InstallAll(host);
     for (const wchar_t* path :
          {L"\\Windows\\Cprog.exe", L"\\Windows\\CPROG.EXE", L"\\Windows\\cprog.ex", L""})
-        EXPECT_EQ(TaskIconForPath(2, path), 2) << path;
+        EXPECT_EQ(TaskIconForPath(2, path, host.programs), 2) << path;
 }
 
 TEST(TaskIconTest, OnlyAGenericIconIsReplacedByThePhones)
@@ -124,12 +120,12 @@ TEST(TaskIconTest, OnlyAGenericIconIsReplacedByThePhones)
     TestHost host;
     InstallAll(host);
     for (const int index : {0, 1, 3, 7, 8, 101})
-        EXPECT_EQ(TaskIconForPath(index, L"\\Windows\\cprog.exe"), index);
+        EXPECT_EQ(TaskIconForPath(index, L"\\Windows\\cprog.exe", host.programs), index);
 }
 
 TEST(TaskIconTest, WithoutAPhoneShortcutThePhoneProgramIsGeneric)
 {
     TestHost host;
-    EXPECT_EQ(TaskIconForPath(2, L"\\Windows\\cprog.exe"), 2);
-    EXPECT_EQ(TaskIconForPath(-1, L"\\Windows\\cprog.exe"), 2);
+    EXPECT_EQ(TaskIconForPath(2, L"\\Windows\\cprog.exe", host.programs), 2);
+    EXPECT_EQ(TaskIconForPath(-1, L"\\Windows\\cprog.exe", host.programs), 2);
 }

@@ -1,24 +1,31 @@
-// An application object without windows, for the pages' functions that ask it.
+// An application object without windows, and the Start menu's programs, for the pages' functions that ask them.
 #pragma once
 
 #include "framework/CVireoApp.h"
-#include "lists/IPageHost.h"
+#include "startmenu/CStartPrograms.h"
 
-#include <vector>
-
-class TestHost : public CVireoApp, public IPageHost
+class TestHost : public CVireoApp
 {
   public:
-    int knownIcons[8] = {-1, -1, -1, -1, -1, -1, -1, -1};
-    std::vector<uint32_t> askedSlots;
+    CStartPrograms programs;
 
     void SetPlatform(Platform kind) { platform = kind; }
     void SetMainWindow(HWND window) { mainWindow = window; }
 
-    int KnownApplicationIcon(uint32_t slot) override
+    // The well-known program of a slot has this icon; -1: it is not installed.
+    void SetKnownIcon(uint32_t slot, int icon)
     {
-        askedSlots.push_back(slot);
-        return knownIcons[slot];
+        CArray<int>& slots = programs.KnownPrograms();
+        while (slots.Count() <= slot) {
+            slots.Append(-1);
+        }
+        if (icon == -1) {
+            slots.At(slot) = -1;
+            return;
+        }
+        auto* program = new SAppsList;
+        program->icon = icon;
+        slots.At(slot) = static_cast<int>(programs.Programs().Count());
+        programs.Programs().Append(program);
     }
-    void ShowWindowReport(HWND) override {}
 };

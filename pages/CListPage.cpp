@@ -1,17 +1,11 @@
 // A page: title strip, list, and the behaviour that all pages share.
-#include "lists/CListPage.h"
+#include "pages/CListPage.h"
 
 #include "framework/CVireoApp.h"
-#include "lists/RowLook.h"
-#include "lists/TitleStrip.h"
+#include "lists/RowMeasures.h"
+#include "pages/PageTable.h"
+#include "pages/TitleStrip.h"
 #include "resources/ids.h"
-
-CListPage::~CListPage()
-{
-    DeleteDC(memoryDC);
-    DeleteObject(boldFont);
-    DeleteObject(normalFont);
-}
 
 void CListPage::Create(int32_t viewId, uint32_t viewMenuBarId, uint32_t viewAcceleratorId)
 {
@@ -20,12 +14,8 @@ void CListPage::Create(int32_t viewId, uint32_t viewMenuBarId, uint32_t viewAcce
 
 void CListPage::OnCreate()
 {
-    icons.Fetch();
-    largeIconSize = icons.LargeSize();
-    boldFont = CreateSystemFont(FW_BOLD, traits.boldExtraHeight);
-    normalFont = CreateSystemFont(FW_NORMAL, traits.normalExtraHeight);
-    headerHeight = TitleStripHeight(boldFont);
-    memoryDC = CreateCompatibleDC(nullptr);
+    look.Create(traits.boldExtraHeight, traits.normalExtraHeight);
+    headerHeight = TitleStripHeight(look.BoldFont());
     List().Construct(window);
 }
 
@@ -33,7 +23,7 @@ void CListPage::OnActivate(int32_t /*previousViewId*/)
 {
     Fill(traits.activationRow);
     List().RecreateColumns(true);
-    SetFocus(List().Window());
+    SetFocus(FocusWindow());
     if (List().Count() > 0) {
         List().SelectRow(0);
     }
@@ -67,7 +57,7 @@ void CListPage::OnPaint(HDC deviceContext)
 {
     RECT client = {};
     GetClientRect(window, &client);
-    DrawTitleStrip(deviceContext, client, headerHeight, traits.title, boldFont, List());
+    DrawTitleStrip(deviceContext, client, headerHeight, PageOf(id).title, look.BoldFont(), List());
 }
 
 void CListPage::OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM control)
@@ -75,10 +65,10 @@ void CListPage::OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM contro
     CVireoApp* app = CVireoApp::Current();
     switch (commandId) {
     case CMD_PREVIOUS_PAGE:
-        app->ActivateView(traits.previousPage);
+        app->ActivateView(Neighbour(id, -1));
         break;
     case CMD_NEXT_PAGE:
-        app->ActivateView(traits.nextPage);
+        app->ActivateView(Neighbour(id, 1));
         break;
     case CMD_REFRESH:
         Refresh();
@@ -92,10 +82,7 @@ void CListPage::OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM contro
 void CListPage::Layout(int width, int height)
 {
     CLB_Base& list = List();
-    if (list.Window() == nullptr) {
-        return; // the size message of the window's own creation
-    }
-    MoveWindow(list.Window(), 0, headerHeight, width, height - headerHeight, TRUE);
+    MoveWindow(list.Window(), 0, ListTop(), width, height - ListTop(), TRUE);
     list.RecreateColumns(true);
     list.ShowSelectedRow();
 }
@@ -113,9 +100,8 @@ void CListPage::TapHeader(POINT point)
         OnCommand(CMD_NEXT_PAGE, 0, 0);
         break;
     case StripZone::Title: {
-        HWND self = window;
-        const uint32_t command = TrackTitleStripMenu(self, point, traits.showCommand);
-        if (IsWindow(self)) {
+        const uint32_t command = TrackTitleStripMenu(window, point, PageOf(id).showCommand);
+        if (CVireoApp::Current()->HasMainWindow()) {
             OnCommand(command, 0, 0);
         }
         break;
@@ -141,10 +127,12 @@ LRESULT CListPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
     case WM_SIZE:
-        Layout(LOWORD(lParam), HIWORD(lParam));
+        if (List().Window() != nullptr) { // it comes during the page's own creation too
+            Layout(LOWORD(lParam), HIWORD(lParam));
+        }
         break;
     case WM_SETFOCUS:
-        SetFocus(List().Window());
+        SetFocus(FocusWindow());
         return 0;
     case WM_MEASUREITEM:
         if (List().MeasureItem(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam))) {
@@ -164,7 +152,7 @@ LRESULT CListPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         if (point.y <= headerHeight) {
             TapHeader(point);
         }
-        return IsWindow(self) ? DefWindowProcW(self, message, wParam, lParam) : 0;
+        return CVireoApp::Current()->HasMainWindow() ? DefWindowProcW(self, message, wParam, lParam) : 0;
     }
     default:
         break;

@@ -1,8 +1,11 @@
 // The plain-text report on a window.
-#include "pages/tasks/WindowReport.h"
+#include "dialogs/WindowReport.h"
 
-#include "pages/ProcessFacts.h"
-#include "pages/tasks/TaskWindows.h"
+#include "dialogs/CDialogInfo.h"
+#include "framework/CVireoApp.h"
+#include "framework/ProcessFacts.h"
+#include "framework/ReportText.h"
+#include "framework/WindowFacts.h"
 
 struct SStyleName
 {
@@ -56,16 +59,9 @@ void AppendExtendedStyleNames(CStr& report, uint32_t extendedStyle)
     AppendNames(report, extendedStyleNames, extendedStyle);
 }
 
-static void AppendLabelled(CStr& report, const wchar_t* label, const wchar_t* text)
-{
-    report.Append(label);
-    report.Append(text);
-}
-
 static void AppendHandle(CStr& report, const wchar_t* label, HWND window)
 {
-    report.Append(label);
-    report.AppendHex(static_cast<uint32_t>(reinterpret_cast<ULONG_PTR>(window)));
+    AppendLabelledHex(report, label, static_cast<uint32_t>(reinterpret_cast<ULONG_PTR>(window)));
 }
 
 static void AppendOwner(CStr& report, const wchar_t* label, HWND owner)
@@ -126,4 +122,23 @@ void AppendWindowReport(CStr& report, HWND window)
     GetWindowRect(window, &rect);
     report.Append(L"\r\n\r\nWindow rect: ");
     AppendRect(report, rect);
+}
+
+bool TellWhenGone(HWND window)
+{
+    if (IsWindow(window)) {
+        return false;
+    }
+    CVireoApp::Current()->ShowNotice(L"Window is no longer exists."); // spelled so on purpose
+    return true;
+}
+
+void ShowWindowReport(HWND window)
+{
+    if (window == INVALID_HANDLE_VALUE || TellWhenGone(window)) {
+        return;
+    }
+    CStr report;
+    AppendWindowReport(report, window);
+    CDialogInfo::Show(report);
 }

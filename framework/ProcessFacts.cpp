@@ -1,15 +1,14 @@
 // Facts about processes.
-#include "pages/ProcessFacts.h"
+#include "framework/ProcessFacts.h"
 
-static constexpr DWORD pathLength = 260;
+#include "framework/PathText.h"
 
 void ProcessImagePath(DWORD processId, CStr& path)
 {
-    wchar_t buffer[pathLength] = {};
+    CPathText text;
     // The device takes a process id in the place of a module handle.
-    GetModuleFileNameW(reinterpret_cast<HMODULE>(static_cast<ULONG_PTR>(processId)), buffer, pathLength);
-    buffer[pathLength - 1] = 0;
-    path = buffer;
+    GetModuleFileNameW(reinterpret_cast<HMODULE>(static_cast<ULONG_PTR>(processId)), text.Room(), pathSize);
+    path = text;
 }
 
 const wchar_t* FileNameOf(const wchar_t* path)

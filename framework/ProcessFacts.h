@@ -1,4 +1,4 @@
-// What the pages ask about a process: its executable and the memory of its heaps.
+// What the program asks about a process: its executable and the memory of its heaps.
 #pragma once
 
 #include "framework/CStr.h"

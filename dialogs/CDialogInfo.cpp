@@ -1,5 +1,5 @@
 // The read-only text dialog.
-#include "keys/CDialogInfo.h"
+#include "dialogs/CDialogInfo.h"
 
 int CDialogInfo::Show(const CStr& shownText)
 {

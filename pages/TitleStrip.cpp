@@ -1,9 +1,10 @@
 // The title strip of the pages.
-#include "lists/TitleStrip.h"
+#include "pages/TitleStrip.h"
 
 #include "framework/Gdi.h"
 #include "framework/Scale.h"
 #include "lists/CLB_Base.h"
+#include "pages/PageTable.h"
 #include "resources/ids.h"
 
 static void DrawBottomLine(HDC target, const RECT& strip)
@@ -61,19 +62,10 @@ StripZone TitleStripZone(int x, const RECT& client, int height)
 
 uint32_t TrackTitleStripMenu(HWND window, POINT point, uint32_t ownCommand)
 {
-    static constexpr struct
-    {
-        uint32_t command;
-        const wchar_t* text;
-    } pages[] = {{CMD_SHOW_TASKS, L"Running apps"},
-                 {CMD_SHOW_START, L"Start"},
-                 {CMD_SHOW_SYSINFO, L"System info"},
-                 {CMD_SHOW_PROCS, L"Processes"}};
-
     HMENU menu = CreatePopupMenu();
-    for (const auto& page : pages) {
-        AppendMenuW(menu, page.command == ownCommand ? MF_STRING | MF_GRAYED : MF_STRING, page.command,
-                    page.text);
+    for (const SPage& page : pageRing) {
+        AppendMenuW(menu, page.showCommand == ownCommand ? MF_STRING | MF_GRAYED : MF_STRING,
+                    page.showCommand, page.menuText);
     }
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
     AppendMenuW(menu, MF_STRING, CMD_REFRESH, L"Refresh");

@@ -1,8 +1,8 @@
 // The tree of a process's windows: a snapshot taken when the dialog opens.
-#include "keys/CDialogWindows.h"
+#include "dialogs/CDialogWindows.h"
 
+#include "dialogs/WindowReport.h"
 #include "framework/WindowFacts.h"
-#include "lists/IPageHost.h"
 #include "resources/ids.h"
 
 static constexpr uint32_t itemLength = 520;
@@ -117,7 +117,7 @@ void CDialogWindows::ShowSelectedReport()
     if (item.hItem == nullptr || !SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item))) {
         return;
     }
-    IPageHost::Current()->ShowWindowReport(reinterpret_cast<HWND>(item.lParam));
+    ShowWindowReport(reinterpret_cast<HWND>(item.lParam));
     SetFocus(tree);
 }
 

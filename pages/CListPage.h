@@ -2,25 +2,13 @@
 #pragma once
 
 #include "framework/CVireoView.h"
+#include "framework/Gdi.h"
 #include "lists/CLB_Base.h"
-#include "lists/SystemIcons.h"
+#include "lists/CRowLook.h"
 
-// The pages' view ids. The title strip's arrows go round in the order tasks, start, sysinfo, procs.
-enum PageId : int32_t
-{
-    PageTasks = 1,
-    PageSysInfo = 2,
-    PageStart = 3,
-    PageProcs = 4
-};
-
-// What tells one page from another, apart from its records.
+// What tells one page from another, apart from its records and its entry in the table of the pages.
 struct SPageTraits
 {
-    const wchar_t* title;
-    uint32_t showCommand; // the page's own entry in the strip's menu
-    PageId previousPage;  // the neighbours in the ring
-    PageId nextPage;
     LONG boldExtraHeight; // added to the system font's (negative) height
     LONG normalExtraHeight;
     int activationRow; // what the page is filled with when it is shown: a row to keep, or -1
@@ -30,12 +18,9 @@ class CListPage : public CVireoView
 {
   protected:
     const SPageTraits& traits;
-    SSystemIcons icons;
-    int largeIconSize = 32;
-    HFONT boldFont = nullptr;
-    HFONT normalFont = nullptr;
-    int headerHeight = 20; // pixels; the real height is known once the fonts exist
-    HDC memoryDC = nullptr;
+    CRowLook look;
+    int headerHeight = 20;           // pixels; the real height is known once the fonts exist
+    MemoryDC memoryDC{HDC(nullptr)}; // compatible with the screen
 
     explicit CListPage(const SPageTraits& pageTraits) : traits(pageTraits) {}
 
@@ -45,14 +30,18 @@ class CListPage : public CVireoView
     virtual void Fill(int row) = 0;
     // The refresh of a page whose records have no identity keeps the row number.
     virtual void Refresh();
+    // Where the list begins, in pixels from the page's top edge.
+    virtual int ListTop() const { return headerHeight; }
+    // Lays the page out in its client area.
+    virtual void Layout(int width, int height);
+    // The control that has the keyboard while the page is shown.
+    virtual HWND FocusWindow() { return List().Window(); }
     // Tells the list that the records were rebuilt and paints it at once.
     void ShowRefilled();
     // A selection mark that is not a row any more moves to the last one.
     void SetRowCount(uint32_t count);
 
   public:
-    ~CListPage() override;
-
     void Create(int32_t viewId, uint32_t viewMenuBarId, uint32_t viewAcceleratorId) override;
     void OnCreate() override;
     void OnActivate(int32_t previousViewId) override;
@@ -60,13 +49,10 @@ class CListPage : public CVireoView
     void OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM control) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    HFONT BoldFont() const { return boldFont; }
-    HFONT NormalFont() const { return normalFont; }
-    const SSystemIcons& Icons() const { return icons; }
+    const CRowLook& Look() const { return look; }
     int HeaderHeight() const { return headerHeight; }
 
   private:
-    void Layout(int width, int height);
     void TapHeader(POINT point);
     LRESULT Notify(const NMHDR& notification);
 };

@@ -1,5 +1,5 @@
 // Measures of single-line rows and title strips.
-#include "lists/RowLook.h"
+#include "lists/RowMeasures.h"
 
 #include "framework/Gdi.h"
 #include "framework/Scale.h"

@@ -1,4 +1,4 @@
-// The plain-text report on a window.
+// The report on a window: its text, and the dialog that shows it.
 #pragma once
 
 #include "framework/CStr.h"
@@ -9,3 +9,9 @@ void AppendWindowReport(CStr& report, HWND window);
 // One line for each style bit that is set, in the report's fixed order.
 void AppendStyleNames(CStr& report, uint32_t style);
 void AppendExtendedStyleNames(CStr& report, uint32_t extendedStyle);
+
+// The report on any window in the information dialog; a notice when the window has gone. Nothing for the
+// all-ones handle, which stands for no window.
+void ShowWindowReport(HWND window);
+// Shows the notice for a window that has gone; false, and nothing shown, while it is there.
+bool TellWhenGone(HWND window);

@@ -108,4 +108,9 @@ TEST_F(ShellNestedTest, AnotherStartBringsTheNewestDialogForward)
     EXPECT_FALSE(IsWindowEnabled(main));
     PressKey(VK_RETURN);
     EXPECT_TRUE(WaitFor([&] { return !IsWindow(report); }));
+    // The keyboard stays with what fills the screen.
+    ASSERT_TRUE(InFront(list));
+    PressKey(VK_F1);
+    EXPECT_TRUE(WaitFor([&] { return !IsWindow(list); }));
+    ExpectKeysReachThePage(TasksPage);
 }

@@ -263,7 +263,7 @@ TEST_F(CVireoDialogLoopTest, AMainWindowThatGoesDuringADialogEndsTheApplication)
               (Events{"dialog OnDestroy", "view 1 OnDestroy", "app OnDestroy"}));
 }
 
-TEST_F(CVireoDialogLoopTest, ANestedDialogEndsAloneAndLeavesTheMainWindowDisabled)
+TEST_F(CVireoDialogLoopTest, ANestedDialogEndsAloneAndEnablesTheMainWindow)
 {
     InApp([](TestApp& app) {
         TestDialog outer("outer");
@@ -279,12 +279,78 @@ TEST_F(CVireoDialogLoopTest, ANestedDialogEndsAloneAndLeavesTheMainWindowDisable
             EXPECT_EQ(inner.Start(), 7);
             EXPECT_TRUE(IsWindow(outer.window));
             EXPECT_TRUE(IsWindowEnabled(outer.window));
-            EXPECT_FALSE(IsWindowEnabled(app.MainWindow()));
+            EXPECT_TRUE(IsWindowEnabled(app.MainWindow()));
             outer.End(9);
         };
         EXPECT_EQ(outer.Start(), 9);
         EXPECT_TRUE(IsWindowEnabled(app.MainWindow()));
     });
+}
+
+// A box disables and enables its owner itself. One that began before the dialog may end before it.
+TEST_F(CVireoDialogLoopTest, ABoxAndADialogThatEndInAnyOrderLeaveTheMainWindowEnabled)
+{
+    InApp([](TestApp& app) {
+        EnableWindow(app.MainWindow(), FALSE);
+        TestDialog dialog("dialog");
+        dialog.body = [&] {
+            EnableWindow(app.MainWindow(), TRUE);
+            dialog.End(3);
+        };
+        EXPECT_EQ(dialog.Start(), 3);
+        EXPECT_TRUE(IsWindowEnabled(app.MainWindow()));
+    });
+}
+
+TEST_F(CVireoDialogLoopTest, ADialogThatDestroysItselfWhileItIsInitialisedReturnsZero)
+{
+    InApp([](TestApp& app) {
+        TestDialog dialog("dialog");
+        dialog.onInit = [&] { DestroyWindow(dialog.window); };
+        EXPECT_EQ(dialog.Start(), 0);
+        EXPECT_FALSE(IsWindow(dialog.window));
+        EXPECT_EQ(app.dialogs->Count(), 0U);
+        EXPECT_TRUE(IsWindowEnabled(app.MainWindow()));
+        EXPECT_EQ(Only(TakeEvents(), "OnDestroy"), (Events{"dialog OnDestroy"}));
+    });
+}
+
+TEST_F(CVireoDialogLoopTest, AMainWindowThatGoesWhileADialogIsInitialisedEndsTheApplication)
+{
+    TestApp app;
+    app.body = [&] {
+        TestDialog dialog("dialog");
+        dialog.onInit = [&] { SendMessageW(app.MainWindow(), WM_CLOSE, 0, 0); };
+        EXPECT_EQ(dialog.Start(), 0);
+        EXPECT_FALSE(app.HasMainWindow());
+    };
+    EXPECT_EQ(app.Start(), 0);
+    EXPECT_EQ(Only(TakeEvents(), "OnDestroy"), (Events{"dialog OnDestroy", "app OnDestroy"}));
+}
+
+TEST_F(CVireoDialogLoopTest, ModalityIsSafeBeforeTheMainWindowIsMadeAndAfterItsEnd)
+{
+    TestApp app;
+    const SPY(EnableWindow) enable;
+    const auto useAll = [&] {
+        TestDialog dialog("dialog");
+        app.BeginModal();
+        app.DialogOpened(&dialog);
+        app.DialogClosed(&dialog);
+        app.DialogClosed(&dialog);
+        app.EndAllDialogs();
+        app.EndModal();
+        app.ShowNotice(L"Nothing to be seen");
+        app.HideInfo();
+    };
+    useAll();
+    EXPECT_TRUE(enable.calls.empty());
+    app.body = [] {};
+    EXPECT_EQ(app.Start(), 0);
+    useAll();
+    app.ActivateView(1);
+    EXPECT_EQ(app.ActiveView(), nullptr);
+    EXPECT_TRUE(enable.calls.empty());
 }
 
 TEST_F(CVireoDialogLoopTest, EndingAllDialogsEndsTheNewestFirstWithCancel)

@@ -67,7 +67,7 @@ class CLBBasePaintTest : public UiTest
         });
         const SPY(FillRect) fill([&](HDC target, const RECT* rect, HBRUSH brush) {
             if (brush == CE_COLOR_BRUSH(COLOR_SCROLLBAR)) {
-                EXPECT_EQ(target, list->bufferDC);
+                EXPECT_EQ(target, list->buffer.DC());
                 strips.push_back(*rect);
                 HBRUSH own = CreateSolidBrush(separatorColour);
                 const int result = fill.Real(target, rect, own);
@@ -114,7 +114,7 @@ TEST_F(CLBBasePaintTest, ARowRequestNamesTheListAndItsBackBuffer)
     EXPECT_EQ(draw.itemID, 1U);
     EXPECT_EQ(draw.hwndItem, list->Window());
     EXPECT_NE(draw.hDC, nullptr);
-    EXPECT_EQ(draw.hDC, list->bufferDC);
+    EXPECT_EQ(draw.hDC, list->buffer.DC());
     EXPECT_EQ(draw.rcItem, (RECT{0, Top(1), ListOwner::width, Top(2)}));
 }
 
@@ -172,8 +172,8 @@ TEST_F(CLBBasePaintTest, OnlyThePaintRectangleIsCopied)
     Paint(area);
     ASSERT_EQ(copies.size(), 1U);
     const HDC screen = std::get<0>(copies[0]);
-    EXPECT_EQ(copies[0], std::make_tuple(screen, 30, 25, 40, 10, list->bufferDC, 30, 25, DWORD{SRCCOPY}));
-    EXPECT_NE(screen, list->bufferDC);
+    EXPECT_EQ(copies[0], std::make_tuple(screen, 30, 25, 40, 10, list->buffer.DC(), 30, 25, DWORD{SRCCOPY}));
+    EXPECT_NE(screen, list->buffer.DC());
     const Pixels pixels = Pixels::Of(list->Window());
     EXPECT_EQ(pixels.Count(pixels.All(), RGB(0, 0, 0)), 40 * 10);
     EXPECT_EQ(pixels.Count(area, RGB(0, 0, 0)), 40 * 10);
@@ -320,11 +320,11 @@ TEST_F(CLBBasePaintTest, AnEmptyListsTextIsCentredWithinFifteenPixels)
 TEST_F(CLBBasePaintTest, AListWithoutABackBufferMakesOneToPaint)
 {
     Construct(2);
-    EXPECT_EQ(list->bufferDC, nullptr);
+    EXPECT_EQ(list->buffer.DC(), nullptr);
     PaintAll();
-    ASSERT_NE(list->bufferDC, nullptr);
-    EXPECT_EQ(list->bufferWidth, ListOwner::width);
-    EXPECT_EQ(list->bufferHeight, ListOwner::height);
+    ASSERT_NE(list->buffer.DC(), nullptr);
+    EXPECT_EQ(list->buffer.Width(), ListOwner::width);
+    EXPECT_EQ(list->buffer.Height(), ListOwner::height);
 }
 
 TEST_F(CLBBasePaintTest, ARowPaintedOffTheScreenShowsNothingBeforeItIsWhole)

@@ -219,7 +219,10 @@ TEST_F(CLBBaseTest, TheBackBufferIsReplacedOnlyByOneOfAnotherSize)
     Resize(70, 50);
     HDC dc = list.buffer.DC();
     HBITMAP bitmap = list.buffer.Bitmap();
-    HGDIOBJ previous = list.previousBitmap;
+    // What every memory context holds before anything is selected.
+    HDC fresh = CreateCompatibleDC(nullptr);
+    HGDIOBJ previous = GetCurrentObject(fresh, OBJ_BITMAP);
+    DeleteDC(fresh);
     ASSERT_NE(dc, nullptr);
     BITMAP fields = {};
     GetObjectW(bitmap, sizeof fields, &fields);
@@ -243,7 +246,6 @@ TEST_F(CLBBaseTest, TheBackBufferIsReplacedOnlyByOneOfAnotherSize)
         EXPECT_EQ(std::get<0>(deleteObject.calls[0]), bitmap);
         ASSERT_EQ(deleteDC.calls.size(), 1U);
         EXPECT_EQ(std::get<0>(deleteDC.calls[0]), dc);
-        previous = list.previousBitmap;
         GetObjectW(list.buffer.Bitmap(), sizeof fields, &fields);
         EXPECT_EQ(fields.bmWidth, size.cx);
         EXPECT_EQ(fields.bmHeight, size.cy);
@@ -308,7 +310,7 @@ TEST_F(CLBBaseTest, TheControlOutlivesItsObject)
     HWND control = shortLived->Window();
     const SPY(DeleteDC) deleteDC;
     SendMessageW(control, WM_SIZE, 0, MAKELPARAM(30, 30));
-    HDC buffer = shortLived->bufferDC;
+    HDC buffer = shortLived->buffer.DC();
     shortLived.reset();
     ASSERT_EQ(deleteDC.calls.size(), 1U);
     EXPECT_EQ(std::get<0>(deleteDC.calls[0]), buffer);

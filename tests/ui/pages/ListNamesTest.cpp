@@ -1,10 +1,12 @@
 // The four pages' lists: the names of their fatal reports, and the pages' titles.
+#include "pages/PageTable.h"
 #include "pages/procs/CViewProcs.h"
 #include "pages/start/CViewStart.h"
 #include "pages/sysinfo/CViewSysInfo.h"
 #include "pages/tasks/CViewTasks.h"
 #include "tests/support/Fatal.h"
 #include "tests/ui/UiTest.h"
+#include "tests/ui/pages/MadePage.h"
 
 class ListNamesTest : public UiTest
 {
@@ -21,8 +23,8 @@ class ListNamesTest : public UiTest
                                : create.Real(exStyle, className, title, style, x, y, width, height, parent,
                                              menu, instance, parameter);
                 });
-            View view;
-            view.Create(1, 0, 0);
+            const auto view = MadePage<View>();
+            view->Create(PageTasks, 0, 0);
         });
     }
 
@@ -33,19 +35,19 @@ class ListNamesTest : public UiTest
             const SPY(SendMessageW) send([&](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
                 return message == LVM_INSERTCOLUMNW ? -1 : send.Real(window, message, wParam, lParam);
             });
-            View view;
-            view.Create(1, 0, 0);
+            const auto view = MadePage<View>();
+            view->Create(PageTasks, 0, 0);
         });
     }
 
     // The title that a page draws into its strip.
     template <typename View>
-    static std::wstring Title()
+    static std::wstring Title(PageId id)
     {
         std::wstring title;
         InApp([&](TestApp& app) {
-            auto* view = new View;
-            view->Create(1, 0, 0);
+            View* view = MadePage<View>().release();
+            view->Create(id, 0, 0);
             app.AddView(view);
             const SPY(DrawTextW)
                 draw([&](HDC target, const wchar_t* text, int length, RECT* rect, UINT format) {
@@ -78,11 +80,11 @@ TEST_F(ListNamesTest, AListWithoutAColumnIsFatalUnderItsName)
 
 TEST_F(ListNamesTest, EveryPageHasItsTitle)
 {
-    EXPECT_EQ(Title<CViewTasks>(), L"Running applications");
+    EXPECT_EQ(Title<CViewTasks>(PageTasks), L"Running applications");
     ForgetClasses();
-    EXPECT_EQ(Title<CViewStart>(), L"Start");
+    EXPECT_EQ(Title<CViewStart>(PageStart), L"Start");
     ForgetClasses();
-    EXPECT_EQ(Title<CViewSysInfo>(), L"System information");
+    EXPECT_EQ(Title<CViewSysInfo>(PageSysInfo), L"System information");
     ForgetClasses();
-    EXPECT_EQ(Title<CViewProcs>(), L"Processes");
+    EXPECT_EQ(Title<CViewProcs>(PageProcs), L"Processes");
 }

@@ -1,8 +1,9 @@
 // Which pages have strips between their rows: all but the system information.
-#include "pages/procs/CViewProcs.h"
-#include "pages/start/CViewStart.h"
-#include "pages/sysinfo/CViewSysInfo.h"
-#include "pages/tasks/CViewTasks.h"
+#include "pages/procs/CLB_Procs.h"
+#include "pages/start/CLB_Start.h"
+#include "pages/sysinfo/CLB_Memory.h"
+#include "pages/tasks/CLB_Tasks.h"
+#include "startmenu/CStartPrograms.h"
 #include "tests/ui/UiTest.h"
 
 // The page's list without what its rows show.
@@ -10,7 +11,9 @@ template <typename List>
 class BareList : public List
 {
   public:
-    using List::List;
+    template <typename... Records>
+    explicit BareList(const CRowLook& rowLook, Records&... records) : List(rowLook, records...)
+    {}
 
   protected:
     void DrawRow(HDC, const RECT&, uint32_t, bool) override {}
@@ -30,13 +33,13 @@ class PageSeparatorsTest : public UiTest
     }
 
     // How many strips such a list draws that is 100 pixels high and has two rows.
-    template <typename List, typename View>
-    static size_t Strips()
+    template <typename List, typename... Records>
+    static size_t Strips(Records&... records)
     {
         size_t strips = 0;
         InApp([&](TestApp& app) {
-            View view;
-            view.Create(1, 0, 0);
+            CRowLook look;
+            look.Create(0, 0);
             WNDCLASSW windowClass = {};
             windowClass.lpfnWndProc = Procedure;
             windowClass.hInstance = app.Instance();
@@ -45,7 +48,7 @@ class PageSeparatorsTest : public UiTest
             HWND owner = CreateWindowExW(0, L"QuorvaneTestOwner", nullptr, WS_POPUP | WS_VISIBLE, 10, 60, 120,
                                          100, nullptr, nullptr, app.Instance(), nullptr);
             {
-                BareList<List> list(view);
+                BareList<List> list(look, records...);
                 list.Construct(owner);
                 list.SetCount(2);
                 const SPY(FillRect) fill([&](HDC target, const RECT* rect, HBRUSH brush) {
@@ -55,7 +58,6 @@ class PageSeparatorsTest : public UiTest
                 list.Repaint();
             }
             DestroyWindow(owner);
-            DestroyWindow(view.Window());
         });
         return strips;
     }
@@ -64,16 +66,18 @@ class PageSeparatorsTest : public UiTest
 TEST_F(PageSeparatorsTest, TheSingleLineListsHaveThem)
 {
     // A page of such rows, below whatever margin the control leaves, and one more slot.
-    const size_t tasks = Strips<CLB_Tasks, CViewTasks>();
+    CStartPrograms programs;
+    CTaskRecords records(programs);
+    const size_t tasks = Strips<CLB_Tasks>(records);
     EXPECT_GE(tasks, 5U);
     EXPECT_LE(tasks, 6U);
     ForgetClasses();
-    EXPECT_EQ((Strips<CLB_Start, CViewStart>()), tasks);
+    EXPECT_EQ(Strips<CLB_Start>(), tasks);
     ForgetClasses();
-    EXPECT_EQ((Strips<CLB_Procs, CViewProcs>()), tasks);
+    EXPECT_EQ(Strips<CLB_Procs>(), tasks);
 }
 
 TEST_F(PageSeparatorsTest, TheSystemInformationHasNone)
 {
-    EXPECT_EQ((Strips<CLB_Memory, CViewSysInfo>()), 0U);
+    EXPECT_EQ(Strips<CLB_Memory>(), 0U);
 }

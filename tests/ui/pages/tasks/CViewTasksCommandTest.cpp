@@ -1,5 +1,6 @@
 // The page of the running applications: what its commands do to the selected task.
 // profiles: pocketpc smartphone
+#include "dialogs/WindowReport.h"
 #include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 

@@ -86,7 +86,8 @@ TEST_F(CViewTasksListTest, TheFontsAreTheSystemFontBoldAndTwoSmaller)
 
 TEST_F(CViewTasksListTest, TheStripIsALineOfBoldTextAndNinePixelsHigh)
 {
-    CViewTasks unmade;
+    CStartPrograms programs;
+    const CViewTasks unmade(programs);
     EXPECT_EQ(unmade.HeaderHeight(), 20);
     InProgram([](ProgramApp& app) {
         TEXTMETRICW metrics = {};

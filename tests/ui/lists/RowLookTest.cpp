@@ -1,8 +1,8 @@
 // What single-line rows have in common: their height, colours, icon and texts.
 // profiles: pocketpc pocketpc-vga
-#include "lists/RowMeasures.h"
 #include "framework/Gdi.h"
 #include "lists/CRowPainter.h"
+#include "lists/RowMeasures.h"
 #include "tests/ui/Pixels.h"
 #include "tests/ui/UiTest.h"
 

@@ -6,10 +6,7 @@ class TaskRecordsTest : public ProgramTest
 {
   protected:
     // The array that the last enumeration filled.
-    CTaskRecords& Array()
-    {
-        return *reinterpret_cast<CTaskRecords*>(std::get<1>(enumWindows.calls.back()));
-    }
+    CTaskRecords& Array() { return *reinterpret_cast<CTaskRecords*>(std::get<1>(enumWindows.calls.back())); }
 
     void AddTasks(int count)
     {

@@ -1,0 +1,2 @@
+// The keys stand beside the pages, not above them.
+#include "pages/CListPage.h"

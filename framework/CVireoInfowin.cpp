@@ -20,7 +20,6 @@ CVireoInfowin::~CVireoInfowin()
 {
     KillTimers();
     if (window != nullptr) {
-        ForgetWindowObject(window);
         DestroyWindow(window);
     }
 }

@@ -48,7 +48,7 @@ class WindowChurn
 class VanishingWindowsTest : public ShellSession
 {
   protected:
-    static constexpr DWORD duration = 40000; // ms
+    static constexpr DWORD duration = 15000; // ms
     static constexpr int churning = 4;
 };
 

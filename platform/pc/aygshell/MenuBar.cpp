@@ -4,6 +4,7 @@
 #include "platform/pc/common/BarLook.h"
 #include "platform/pc/common/Screen.h"
 #include "platform/pc/common/SoftKeys.h"
+#include "platform/pc/common/WindowObject.h"
 
 namespace {
 
@@ -178,16 +179,12 @@ void MenuBar::Paint(handheld::Surface& surface) const
 
 LRESULT CALLBACK MenuBar::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message == WM_NCCREATE) {
-        auto* created = static_cast<MenuBar*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
-        created->m_window = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
-    }
-    auto* bar = reinterpret_cast<MenuBar*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* bar = handheld::ObjectOf<MenuBar>(window, message, lParam);
     if (!bar)
         return DefWindowProcW(window, message, wParam, lParam);
+    bar->m_window = window;
     if (message == WM_NCDESTROY) {
-        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        handheld::ForgetObject(window);
         delete bar;
         return DefWindowProcW(window, message, wParam, lParam);
     }
@@ -199,8 +196,6 @@ LRESULT MenuBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     switch (message) {
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
-    case WM_ERASEBKGND:
-        return 1;
     case WM_PAINT: {
         handheld::Surface surface(m_window);
         Paint(surface);

@@ -1,6 +1,8 @@
 // ShellWindow: a window of the handheld's shell.
 #include "platform/pc/handheld/ShellWindow.h"
 
+#include "platform/pc/common/WindowObject.h"
+
 ShellWindow::~ShellWindow()
 {
     if (m_window)
@@ -43,18 +45,13 @@ void ShellWindow::Paint(handheld::Surface&) {}
 
 LRESULT CALLBACK ShellWindow::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message == WM_NCCREATE) {
-        auto* created =
-            static_cast<ShellWindow*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
-        created->m_window = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
-    }
-    auto* self = reinterpret_cast<ShellWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* self = handheld::ObjectOf<ShellWindow>(window, message, lParam);
     if (!self)
         return DefWindowProcW(window, message, wParam, lParam);
+    self->m_window = window;
     const LRESULT result = self->HandleMessage(message, wParam, lParam);
     if (message == WM_NCDESTROY) {
-        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        handheld::ForgetObject(window);
         self->m_window = nullptr;
     }
     return result;

@@ -95,6 +95,8 @@ TEST(DescriptionRefusalTest, FoldersAreBelowAStandardFolder)
         ExpectValueRefused("folder", folder, "is not one of %CE1% to %CE17%");
     ExpectValueRefused("folder", R"(%CE1%\)", "a text is empty");
     ExpectValueRefused("folder", R"(%CE1%\\One)", "a text is empty");
+    for (const char* folder : {R"(%CE1%\ One)", R"(%CE1%\One \Two)"})
+        ExpectValueRefused("folder", folder, "begins or ends with a blank");
     ExpectValueRefused("folder", R"(%CE1%\..)", "cannot be a file name");
     ExpectValueRefused("folder", R"(%CE1%\%CE2%)", "cannot be a file name");
     EXPECT_FALSE(WriteInstructions(DescriptionWith("folder", "folder = %CE17%")).xml.empty());
@@ -134,6 +136,8 @@ TEST(DescriptionRefusalTest, Shortcuts)
     ExpectLineRefused(R"(shortcut = %CE11%\a.exe > a.exe)", "the name of a shortcut must end in .lnk");
     ExpectLineRefused(R"(shortcut = %CE11% > a.exe)", "the name of a shortcut must end in .lnk");
     ExpectLineRefused(R"(shortcut = a.lnk > a.exe)", "'a.lnk' is not one of %CE1% to %CE17%");
+    EXPECT_FALSE(
+        WriteInstructions(Joined(GoodDescription()) + R"(shortcut = %CE11%\A.LNK > a.exe)").xml.empty());
 }
 
 TEST(DescriptionRefusalTest, TheNumberOfASetUpLibraryIsNotUsed)
@@ -143,4 +147,23 @@ TEST(DescriptionRefusalTest, TheNumberOfASetUpLibraryIsNotUsed)
         description += "file = " + std::to_string(i) + "\n";
     EXPECT_NE(WriteInstructions(description).xml.find(R"("TEST.998")"), std::string::npos);
     ExpectDescriptionRefused(description + "file = 999\n", "line 1005: more than 998 files");
+}
+
+// The instructions count links in two bytes.
+TEST(DescriptionRefusalTest, MoreShortcutsThanTheInstructionsCanCount)
+{
+    static constexpr int mostLinks = 0xFFFF;
+    static constexpr int digit = 41; // 41 * 41 * 41 paths are enough, of few different parts
+    std::string description = Joined(GoodDescription());
+    for (int i = 0; i <= mostLinks; i++)
+        description += R"(shortcut = %CE11%\)" + std::to_string(i / digit / digit) + "\\" +
+                       std::to_string(i / digit % digit) + "\\" + std::to_string(i % digit) +
+                       ".lnk > a.exe\n";
+    const TempFolder folder;
+    const std::string file = folder.Put("description", Bytes(description.begin(), description.end()));
+    const ProgramResult result = RunCabheader({file, folder.Path("")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_NE(result.errors.find("the number 65536 does not fit in 2 bytes"), std::string::npos)
+        << result.errors;
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{"description"});
 }

@@ -73,3 +73,19 @@ TEST(XmlInstructionsTest, CharactersWithAMeaningInXmlAreEscaped)
     EXPECT_EQ(document.Child(0).Parm("AppName"), R"(<&> "a" 'b' &amp;)");
     EXPECT_EQ(document.Child(1).Child(0).Attribute("type"), R"(%CE1%\R&D)");
 }
+
+TEST(XmlInstructionsTest, AShortcutLeadsToTheFileItNames)
+{
+    const Instructions written =
+        WriteInstructions(Joined(GoodDescription()) + "file = b.exe\n"
+                                                      R"(shortcut = %CE11%\b.lnk > b.exe)"
+                                                      "\n"
+                                                      R"(shortcut = %CE11%\a.lnk > a.exe)");
+    const XmlElement operations = ParseXml(written.xml).Child(1);
+    const XmlElement& first = operations.Child(1).Child(1);
+    EXPECT_EQ(first.Attribute("type"), "b.lnk");
+    EXPECT_EQ(first.Child(0).Parm("Source"), R"(%CE1%\One\b.exe)");
+    const XmlElement& second = operations.Child(2).Child(1);
+    EXPECT_EQ(second.Attribute("type"), "a.lnk");
+    EXPECT_EQ(second.Child(0).Parm("Source"), R"(%CE1%\One\a.exe)");
+}

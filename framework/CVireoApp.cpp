@@ -79,7 +79,7 @@ int CVireoApp::Run(uint32_t titleStringId, uint32_t iconId, uint32_t accelerator
     MakeAppBaseName(className);
     className.Append(L"App");
 
-    AygshellStartup();
+    SHInitExtraControls();
     DetectPlatform();
 
     mainWindow = FindWindowW(className, title);

@@ -28,3 +28,9 @@ build_preset()
     say "Building $preset (what has changed) ..."
     quietly "$folder/build.log" ninja -C "$folder" "$@"
 }
+
+# substitute_dlls: the names of the DLLs that stand in for the device's libraries, one a line.
+substitute_dlls()
+{
+    awk '!/^#/ && $2 != "-" { print $2 ".dll" }' "$QV_ROOT/platform/imports/libraries.txt" | sort -u
+}

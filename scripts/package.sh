@@ -5,8 +5,8 @@
 QV_PACKAGE_TIME='2000-01-01 12:00:00 UTC'
 # An uncompressed cabinet holds at most this many blocks of 32 KB.
 QV_LARGEST_CABINET=$((65535 * 32768))
-# What the archive holds from the build's folder; all profiles are added.
-QV_PC_FILES=(Quorvane.exe Quorvane.zrs handheld.exe coredll.dll toolhelp.dll aygshell.dll)
+# What the archive holds from the build's folder; the substitutes of the device's libraries and all profiles are added.
+QV_PC_FILES=(Quorvane.exe Quorvane.zrs handheld.exe)
 # The folder in the archive.
 QV_PC_FOLDER=Quorvane
 
@@ -116,7 +116,8 @@ sign_file()
 make_pc_archive()
 {
     local bin=$1 work=$2 archive=$3 file version made=$2/made.zip
-    local files=("${QV_PC_FILES[@]}") names=() top=$2/archive/$QV_PC_FOLDER texts=$QV_ROOT/packaging/pc
+    local files names=() top=$2/archive/$QV_PC_FOLDER texts=$QV_ROOT/packaging/pc
+    mapfile -t files < <(printf '%s\n' "${QV_PC_FILES[@]}" && substitute_dlls)
     for file in "$bin"/profiles/*.ini; do
         files+=("profiles/${file##*/}")
     done

@@ -50,8 +50,8 @@ struct SHRGINFO
 #define SHIDIF_EMPTYMENU 0x0020
 
 extern "C" {
-// Ordinal 9: called once before the first window; takes nothing, its result is not used.
-__declspec(dllimport) BOOL WINAPI AygshellStartup();
+// By its number, 9: called once before the first window; takes nothing, its result is not used.
+__declspec(dllimport) BOOL WINAPI SHInitExtraControls();
 __declspec(dllimport) BOOL WINAPI SHCreateMenuBar(SHMENUBARINFO* info);
 __declspec(dllimport) BOOL WINAPI
     SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info, DWORD flags);

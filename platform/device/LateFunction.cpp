@@ -1,4 +1,4 @@
-// LateFunction: a function that not every device's library exports, looked up when it is first called.
+// LateFunction: a function that not every device's library exports, looked up when the program starts.
 #include "platform/device/LateFunction.h"
 
 // The device's function takes a wide name; the desktop's, which <windows.h> declares, a narrow one.
@@ -6,11 +6,6 @@ extern "C" FARPROC WINAPI GetProcAddressW(HMODULE library, const wchar_t* name);
 
 void LateFunction::LookUp()
 {
-    // Before the message is shown: its loop can bring the next call.
-    if (lookedUp) {
-        return;
-    }
-    lookedUp = true;
     // Never freed: a library that a process has called stays with it.
     HMODULE module = LoadLibraryW(wanted.library);
     if (module) {

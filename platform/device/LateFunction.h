@@ -1,4 +1,4 @@
-// LateFunction: a function that not every device's library exports, looked up when it is first called.
+// LateFunction: a function that not every device's library exports, looked up when the program starts.
 #pragma once
 
 #include "platform/ce.h"
@@ -11,16 +11,13 @@ struct LateExport
     WORD number;
 };
 
-// A device without it is told so once, with what does not work there; the call then does nothing.
+// A device without it is told so, with what does not work there; the call then does nothing.
 class LateFunction
 {
     const LateExport& wanted;
     const wchar_t* loss; // a whole sentence; null when nobody would miss it
     bool (*isMissed)();  // whether this device would miss it; null when any would
     void* address = nullptr;
-    bool lookedUp = false;
-
-    void LookUp();
 
   public:
     constexpr LateFunction(const LateExport& itsExport, const wchar_t* itsLoss,
@@ -30,11 +27,14 @@ class LateFunction
     LateFunction(const LateFunction&) = delete;
     LateFunction& operator=(const LateFunction&) = delete;
 
+    // Before the program begins: a box has a message loop, and within a call of the program's that loop could
+    // close the window, and with it what the call still needs.
+    void LookUp();
+
     // As a function of the given type; null when the device does not have it.
     template <class Function>
-    Function* As()
+    Function* As() const
     {
-        LookUp();
         return reinterpret_cast<Function*>(address);
     }
 };

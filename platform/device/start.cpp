@@ -1,4 +1,5 @@
 // Start-up of the executable on the device: Headers.S calls it with what the system hands to a new process.
+#include "platform/device/Aygshell.h"
 #include "platform/device/LateFunction.h"
 
 #include "LateExports.h"
@@ -7,7 +8,8 @@
 // registers them when it is loaded.
 static void RegisterCommonControls()
 {
-    static constinit LateFunction initialise(late::InitCommonControlsEx, nullptr);
+    LateFunction initialise(late::InitCommonControlsEx, nullptr);
+    initialise.LookUp();
     const INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES};
     if (auto* function = initialise.As<BOOL WINAPI(const INITCOMMONCONTROLSEX*)>()) {
         function(&classes);
@@ -29,6 +31,7 @@ extern "C" [[noreturn]] void ProgramStart(HINSTANCE instance, HINSTANCE previous
         processCommandLine = commandLine;
     }
     RegisterCommonControls();
+    LookUpShellFunctions();
     const int result = ProgramMain(instance, previousInstance, processCommandLine, showCommand);
     TerminateProcess(GetCurrentProcess(), static_cast<UINT>(result));
     // The call may return while the process is being taken down.

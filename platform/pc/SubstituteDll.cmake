@@ -26,24 +26,28 @@ function(qv_exports library result)
     set(${result} ${exports} PARENT_SCOPE)
 endfunction()
 
-# qv_substitute_dll(<name> SOURCES ... IMPORTS ... LIBRARIES ...): builds <name>.dll from its sources, exporting what
-# the import lists name, and the interface library import_<name> that the program links instead of the system's.
+# What of Windows the substitutes need; a link takes what is used.
+set(QV_SUBSTITUTE_LIBRARIES psapi windowscodecs uuid gdi32 comctl32)
+
+# qv_substitute_dll(<name>): builds <name>.dll from the folder of its name, exporting what the import lists of the device's
+# libraries that it stands in for name, and the interface library import_<name> that the program links instead of the
+# system's.
 function(qv_substitute_dll name)
-    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;IMPORTS;LIBRARIES")
+    file(GLOB sources CONFIGURE_DEPENDS ${name}/*.cpp ${name}/*.rc)
     set(exports "")
-    foreach(list IN LISTS ARG_IMPORTS)
-        qv_exports(${list} rows)
+    foreach(library IN LISTS QV_STANDS_FOR_${name})
+        qv_exports(${library} rows)
         list(APPEND exports ${rows})
     endforeach()
     list(JOIN exports "\n" exports)
     set(def ${CMAKE_CURRENT_BINARY_DIR}/${name}.def)
     file(CONFIGURE OUTPUT ${def} CONTENT "LIBRARY ${name}.dll\nEXPORTS\n${exports}\n" @ONLY)
 
-    add_library(${name} SHARED ${ARG_SOURCES} ${def})
+    add_library(${name} SHARED ${sources} ${def})
     set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "unused_" RUNTIME_OUTPUT_DIRECTORY ${QV_BIN})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_options(${name} PRIVATE -static)
-    target_link_libraries(${name} PRIVATE qv_compile_options ${ARG_LIBRARIES})
+    target_link_libraries(${name} PRIVATE qv_compile_options qv_pc_common ${QV_SUBSTITUTE_LIBRARIES})
 
     set(archive ${CMAKE_CURRENT_BINARY_DIR}/libimport_${name}.a)
     add_custom_command(

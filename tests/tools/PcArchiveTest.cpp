@@ -65,7 +65,7 @@ TEST_F(PcArchiveTest, HoldsWhatAPcNeedsAndNothingElse)
     EXPECT_EQ(output.Names(), std::vector<std::string>{"quorvane-pc.zip"});
 }
 
-// The list of files is kept by hand: a library that the program has come to need must be on it.
+// A library that the program has come to need must be in it.
 TEST_F(PcArchiveTest, HoldsEveryLibraryTheProgramIsLinkedWith)
 {
     const std::string report = RunPackaging({"x86_64-w64-mingw32-objdump", "-p", QV_BUILT_EXECUTABLE}).output;

@@ -38,7 +38,7 @@ bool CanTakeFocus(HWND window, HWND root)
 
 } // namespace
 
-extern "C" BOOL WINAPI ce_AygshellStartup()
+extern "C" BOOL WINAPI ce_SHInitExtraControls()
 {
     return TRUE;
 }

@@ -2,24 +2,29 @@
 #include "tests/device/image/ImportLists.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
+// The first two columns of a list's rows.
+static std::map<std::string, std::string> ReadRows(const std::string& file)
+{
+    std::map<std::string, std::string> rows;
+    std::ifstream stream(file);
+    for (std::string line; std::getline(stream, line);) {
+        std::istringstream columns(line);
+        std::string name;
+        std::string kind;
+        if (columns >> name >> kind && name[0] != '#') {
+            rows[name] = kind;
+        }
+    }
+    return rows;
+}
+
 ImportLists::ImportLists(const std::string& folder)
 {
-    for (const auto& file : std::filesystem::directory_iterator(folder)) {
-        const std::string library = file.path().stem().string();
-        if (library == "evidence")
-            continue; // says how sure the rows of the others are
-        std::ifstream stream(file.path());
-        for (std::string line; std::getline(stream, line);) {
-            std::istringstream columns(line);
-            std::string name;
-            std::string kind;
-            if (columns >> name >> kind && name[0] != '#' && name != "dll-on-pc")
-                lists[library][name] = kind;
-        }
+    for (const auto& library : ReadRows(folder + "/libraries.txt")) {
+        lists[library.first] = ReadRows(folder + "/" + library.first + ".txt");
     }
 }
 

@@ -58,9 +58,10 @@ TEST_F(CabinetTest, BothKindsOfInstructionsInstallTheSame)
         "builds 0 to 3758096384",
         R"(file %CE1%\Quorvane\Quorvane.exe is number 1)",
         R"(file %CE1%\Quorvane\Quorvane.zrs is number 2)",
+        R"(folder %CE1%\Quorvane)",
         "registry 0 0",
         R"(shortcut %CE11%\Quorvane.lnk to %CE1%\Quorvane\Quorvane.exe)",
-        "versions 5.0 to 6.99",
+        "versions 5.1 to 6.99",
     };
     EXPECT_EQ(PlanOfBinary(members[0].content), expected);
     const Bytes& xml = members[3].content;

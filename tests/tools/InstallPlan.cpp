@@ -3,6 +3,11 @@
 
 #include <algorithm>
 
+std::string FolderDeed(const std::string& path)
+{
+    return "folder " + path;
+}
+
 std::string FileDeed(const std::string& path, std::uint32_t number)
 {
     return "file " + path + " is number " + std::to_string(number);

@@ -13,6 +13,8 @@ using InstallPlan = std::vector<std::string>;
 InstallPlan PlanOfBinary(const Bytes& instructions);
 InstallPlan PlanOfXml(const std::string& instructions);
 
+// What is recorded as the program's folder.
+std::string FolderDeed(const std::string& path);
 std::string FileDeed(const std::string& path, std::uint32_t number);
 std::string ShortcutDeed(const std::string& path, const std::string& target);
 InstallPlan Sorted(InstallPlan plan);

@@ -72,6 +72,7 @@ class BinaryPlan
             const std::uint32_t number = record.U16();
             strings[number] = record.CountedText();
         });
+        plan.push_back(FolderDeed(strings.at(1)));
         ForEach(1, [this](Reader& record) {
             const std::uint32_t number = record.U16();
             folders[number] = Path(record, strings);

@@ -50,6 +50,7 @@ InstallPlan PlanOfXml(const std::string& instructions)
     deeds.push_back("application " + install.Parm("AppName"));
     deeds.push_back("versions " + install.Parm("OSVersionMin") + " to " + install.Parm("OSVersionMax"));
     deeds.push_back("builds " + install.Parm("BuildNumberMin") + " to " + std::to_string(newest));
+    deeds.push_back(FolderDeed(install.Parm("InstallDir")));
     deeds.push_back("registry " + install.Parm("NumRegKeys") + " " + install.Parm("NumRegVals"));
     return Sorted(deeds);
 }

@@ -84,6 +84,8 @@ void Add16s(HeaderBytes& bytes, std::initializer_list<std::size_t> numbers)
 std::vector<std::uint8_t> WriteBinaryInstructions(const Installation& installation)
 {
     StringTable strings;
+    // The installer records the first string as the program's folder, whatever refers to it.
+    strings.Number(installation.folder.Text());
     const Section folders = FolderSection(installation, strings);
     const Section files = FileSection(installation);
     const Section links = LinkSection(installation, strings);

@@ -1,8 +1,9 @@
-# Every function in LISTS that the device would import is called by one of the objects in CODE, and every one that is looked
-# up late is asked for in the folder PARTS: nothing stays listed that no source needs. (What no code of the executable can
-# reach, the linker drops.) FOUND: the complaints that there must be.
+# Every function in LISTS that the device would import is called by one of the objects CODE (with | between them), and
+# every one that is looked up late is asked for in the folder PARTS: nothing stays listed that no source needs. (What no
+# code of the executable can reach, the linker drops.) FOUND: the complaints that there must be.
 cmake_minimum_required(VERSION 3.25)
 find_program(NM arm-none-eabi-nm NO_CACHE REQUIRED)
+string(REPLACE "|" ";" CODE "${CODE}")
 execute_process(COMMAND ${NM} -u ${CODE} OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
 set(parts "")
 file(GLOB files ${PARTS}/*.cpp)

@@ -83,7 +83,9 @@ void CListPage::Layout(int width, int height)
 {
     CLB_Base& list = List();
     MoveWindow(list.Window(), 0, ListTop(), width, height - ListTop(), TRUE);
-    list.RecreateColumns(true);
+    if (CVireoApp::Current()->ActiveView() == this) { // any other page's column is made when it is shown
+        list.RecreateColumns(true);
+    }
     list.ShowSelectedRow();
 }
 

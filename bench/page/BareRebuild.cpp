@@ -9,11 +9,13 @@ static constexpr size_t MostTasks = 1000;
 BareRebuild::BareRebuild(HWND taskList) : list(taskList)
 {
     tasks.reserve(MostTasks);
+    processes.reserve(MostTasks);
 }
 
 void BareRebuild::Run()
 {
     tasks.clear();
+    processes.clear();
     SendMessageW(list, LVM_GETSELECTIONMARK, 0, 0);
     EnumWindows(AskWindow, reinterpret_cast<LPARAM>(this));
     TellList();
@@ -21,7 +23,8 @@ void BareRebuild::Run()
 
 BOOL CALLBACK BareRebuild::AskWindow(HWND window, LPARAM self)
 {
-    auto& tasks = reinterpret_cast<BareRebuild*>(self)->tasks;
+    auto& bare = *reinterpret_cast<BareRebuild*>(self);
+    auto& tasks = bare.tasks;
     if (!IsWindowVisible(window) || !IsWindowEnabled(window) ||
         (GetWindowLongPtrW(window, GWL_EXSTYLE) & (WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW)))
         return TRUE;
@@ -35,7 +38,7 @@ BOOL CALLBACK BareRebuild::AskWindow(HWND window, LPARAM self)
         return TRUE;
     if (std::find(tasks.begin(), tasks.end(), top) != tasks.end())
         return TRUE;
-    AskTask(top);
+    bare.AskTask(top);
     tasks.push_back(top);
     return TRUE;
 }
@@ -46,6 +49,14 @@ void BareRebuild::AskTask(HWND window)
     GetWindowThreadProcessId(window, &processId);
     wchar_t className[TextLength];
     GetClassNameW(window, className, TextLength);
+    if (std::find(processes.begin(), processes.end(), processId) == processes.end()) {
+        AskProcess(processId);
+        processes.push_back(processId);
+    }
+}
+
+void BareRebuild::AskProcess(DWORD processId)
+{
     wchar_t path[TextLength];
     // The device takes a process id in the place of a module handle.
     if (GetModuleFileNameW(reinterpret_cast<HMODULE>(static_cast<ULONG_PTR>(processId)), path, TextLength)) {

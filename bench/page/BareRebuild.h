@@ -5,12 +5,13 @@
 
 #include <vector>
 
-// Makes the same calls in the same order as the page, keeps nothing but the windows that are needed to list
-// a task once.
+// Makes the same calls in the same order as the page, keeps nothing but what is needed to list a task once
+// and to ask a process once.
 class BareRebuild
 {
     HWND list; // the page's own control
     std::vector<HWND> tasks;
+    std::vector<DWORD> processes;
 
   public:
     explicit BareRebuild(HWND taskList);
@@ -20,7 +21,8 @@ class BareRebuild
 
   private:
     static BOOL CALLBACK AskWindow(HWND window, LPARAM self);
-    static void AskTask(HWND window);
+    void AskTask(HWND window);
+    static void AskProcess(DWORD processId);
     static DWORD WalkHeaps(DWORD processId);
     void TellList() const;
 };

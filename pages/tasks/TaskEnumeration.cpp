@@ -3,8 +3,6 @@
 
 #include "framework/Assert.h"
 #include "framework/CVireoApp.h"
-#include "framework/ProcessFacts.h"
-#include "lists/SystemIcons.h"
 #include "pages/tasks/TaskIcon.h"
 #include "pages/tasks/TaskWindows.h"
 
@@ -31,21 +29,20 @@ static void NameUntitled(HWND topOwner, CStr& name)
     }
 }
 
-static void DescribeTask(STaskInfo& task, CStartPrograms& programs)
+static void DescribeTask(STaskInfo& task, CTaskRecords& tasks)
 {
     const DWORD processId = WindowProcessId(task.window);
     CStr className;
     WindowClass(task.window, className);
-    CStr path;
-    ProcessImagePath(processId, path);
+    STaskProcess& process = tasks.Processes().Find(processId);
 
-    const STaskIcon icon = TaskIconForClass(SystemIconIndex(path), className, programs);
+    const STaskIcon icon = TaskIconForClass(process.shellIcon, className, tasks.Programs());
     task.iconIndex = icon.index;
     if (icon.final) {
         return; // the shell: shown without a heap figure
     }
-    task.iconIndex = TaskIconForPath(task.iconIndex, path, programs);
-    task.heapBytes = ProcessHeapBytes(processId);
+    task.iconIndex = TaskIconForPath(task.iconIndex, process.path, tasks.Programs());
+    task.heapBytes = CTaskProcesses::HeapBytes(process);
 }
 
 BOOL CALLBACK EnumTasksProc(HWND window, LPARAM taskArray)
@@ -70,7 +67,7 @@ BOOL CALLBACK EnumTasksProc(HWND window, LPARAM taskArray)
     Assert(task != nullptr, ErrorNoMemory, L"EnumTasksProc", __LINE__);
     task->name = name;
     task->window = topOwner;
-    DescribeTask(*task, tasks.Programs());
+    DescribeTask(*task, tasks);
     tasks.Append(task);
     return TRUE;
 }

@@ -214,6 +214,62 @@ TEST_F(TaskEnumerationTest, ARecordDescribesTheTopOwnersProcess)
     EXPECT_EQ(icons.askedFlags, std::vector<UINT>{0x4001});
 }
 
+TEST_F(TaskEnumerationTest, AProcessIsAskedOnceForAllItsTasks)
+{
+    const DWORD processes[] = {42, 43, 42, 42, 43};
+    for (const DWORD process : processes) {
+        windows.windows[Add((L"Task of " + std::to_wstring(process)).c_str())].processId = process;
+    }
+    windows.paths = {{42, L"\\Windows\\pword.exe"}, {43, L"\\Windows\\pxl.exe"}};
+    icons.indexes = {{L"\\Windows\\pword.exe", 12}, {L"\\Windows\\pxl.exe", 13}};
+    heaps.processes = {{42, {{{1000}}}}, {43, {{{2000}}}}};
+    Enumerate();
+    EXPECT_EQ(windows.askedPaths, (std::vector<DWORD>{42, 43}));
+    EXPECT_EQ(icons.askedPaths, (std::vector<std::wstring>{L"\\Windows\\pword.exe", L"\\Windows\\pxl.exe"}));
+    EXPECT_EQ(heaps.snapshots, (std::vector<DWORD>{42, 43}));
+    ASSERT_EQ(tasks.Count(), 5u);
+    for (uint32_t i = 0; i < 5; i++) {
+        EXPECT_EQ(tasks.At(i)->iconIndex, processes[i] == 42 ? 12 : 13) << i;
+        EXPECT_EQ(tasks.At(i)->heapBytes, processes[i] == 42 ? 1000u : 2000u) << i;
+    }
+}
+
+TEST_F(TaskEnumerationTest, ARefreshAsksAgain)
+{
+    windows.windows[Add(L"Word")].processId = 42;
+    windows.paths[42] = L"\\Windows\\pword.exe";
+    icons.indexes = {{L"\\Windows\\pword.exe", 12}, {L"\\Windows\\pxl.exe", 13}};
+    heaps.processes[42] = {{{1000}}};
+    Enumerate();
+    EXPECT_EQ(tasks.At(0)->heapBytes, 1000u);
+    // The process has ended meanwhile, and another has its id.
+    windows.paths[42] = L"\\Windows\\pxl.exe";
+    heaps.processes[42] = {{{3000}}};
+    tasks.Clear();
+    Enumerate();
+    EXPECT_EQ(tasks.At(0)->heapBytes, 3000u);
+    EXPECT_EQ(tasks.At(0)->iconIndex, 13);
+}
+
+TEST_F(TaskEnumerationTest, AFigurelessTaskOfTheShellLeavesItsProcessesOthersTheirs)
+{
+    for (const wchar_t* className : {L"Explore", L"Dialer", L"MSStart", L"Worker"}) {
+        HWND window = Add(className);
+        windows.windows[window].className = className;
+        windows.windows[window].processId = 42;
+    }
+    windows.paths[42] = L"\\Windows\\shell32.exe";
+    icons.indexes[L"\\Windows\\shell32.exe"] = 2;
+    heaps.processes[42] = {{{1000}}};
+    Enumerate();
+    ASSERT_EQ(tasks.Count(), 4u);
+    for (uint32_t i = 0; i < 4; i++) {
+        EXPECT_EQ(tasks.At(i)->heapBytes, i % 2 == 0 ? 0u : 1000u) << i;
+        EXPECT_EQ(tasks.At(i)->iconIndex, i % 2 == 0 ? 7 : 2) << i;
+    }
+    EXPECT_EQ(heaps.snapshots, std::vector<DWORD>{42});
+}
+
 TEST_F(TaskEnumerationTest, AProcessWhoseHeapsCannotBeWalkedHasNone)
 {
     STaskInfo& task = TaskOf(L"Word", 5);

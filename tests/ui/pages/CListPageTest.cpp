@@ -101,6 +101,26 @@ TEST_F(CListPageTest, ANewSizeMovesTheListAndItsColumnAndShowsTheMark)
     });
 }
 
+TEST_F(CListPageTest, ANewSizeOfAPageThatIsNotShownLeavesTheColumnToItsShowing)
+{
+    WithPage([](TestApp& app, Page& shown) {
+        int columns = 0;
+        const SPY(SendMessageW) send([&](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+            columns += message == LVM_INSERTCOLUMNW && window != shown.list.Window();
+            return send.Real(window, message, wParam, lParam);
+        });
+        auto* page = new Page;
+        page->Create(4, IDB_START, 0);
+        app.AddView(page);
+        EXPECT_EQ(columns, 1) << "the one that the list is made with";
+        MoveWindow(page->Window(), 0, 0, 150, 130, FALSE);
+        EXPECT_EQ(columns, 1);
+        EXPECT_EQ(InPage(*page, page->list.Window()), (RECT{0, page->HeaderHeight(), 150, 130}));
+        app.ActivateView(4);
+        EXPECT_EQ(ColumnWidth(*page), ClientSize(page->list.Window()).cx);
+    });
+}
+
 TEST_F(CListPageTest, ThereIsOneColumnAsWideAsTheListAfterEachRefill)
 {
     WithPage([](TestApp&, Page& page) {

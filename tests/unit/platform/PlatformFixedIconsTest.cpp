@@ -1,7 +1,8 @@
-// The icons in front of the substitute's icon list. The list is made at a process's first question about an
-// icon, so this suite has one test.
+// The icons in front of the substitute's icon list. It is made at the first question about an icon, so the
+// test asks a library of its own: a copy of the substitute that nobody has asked yet.
 #include "platform/ce.h"
 #include "tests/support/ImportHook.h"
+#include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -51,17 +52,47 @@ static std::vector<COLORREF> Drawn(HIMAGELIST list, int icon, COLORREF ground)
     return pixels;
 }
 
+class OwnLibrary
+{
+    TempFolder folder;
+    HMODULE module;
+
+  public:
+    OwnLibrary()
+    {
+        wchar_t path[MAX_PATH] = {};
+        GetModuleFileNameW(GetModuleHandleW(L"coredll.dll"), path, MAX_PATH);
+        const std::wstring copy = folder.Path(L"unasked.dll");
+        EXPECT_TRUE(CopyFileW(path, copy.c_str(), FALSE));
+        module = LoadLibraryW(copy.c_str());
+    }
+    OwnLibrary(const OwnLibrary&) = delete;
+    OwnLibrary& operator=(const OwnLibrary&) = delete;
+    ~OwnLibrary() { FreeLibrary(module); }
+
+    HMODULE Module() const { return module; }
+
+    HIMAGELIST IconList() const
+    {
+        using Ask = DWORD_PTR(WINAPI*)(const wchar_t*, DWORD, SHFILEINFOW*, UINT, UINT);
+        const auto ask =
+            reinterpret_cast<Ask>(reinterpret_cast<void*>(GetProcAddress(module, "SHGetFileInfo")));
+        SHFILEINFOW info = {};
+        return reinterpret_cast<HIMAGELIST>(
+            ask(L"\\", 0, &info, sizeof info, SHGFI_SYSICONINDEX | SHGFI_SMALLICON));
+    }
+};
+
 TEST(PlatformFixedIconsTest, AllAreAddedAtOnceAndEachIsAPictureOfItsOwn)
 {
-    const HMODULE shell = GetModuleHandleW(L"coredll.dll");
-    const ImportHook bitmaps(shell, "ImageList_Add", CountBitmap);
-    const ImportHook icons(shell, "ImageList_ReplaceIcon", CountIcon);
+    const OwnLibrary library;
+    ASSERT_NE(library.Module(), nullptr);
+    const ImportHook bitmaps(library.Module(), "ImageList_Add", CountBitmap);
+    const ImportHook icons(library.Module(), "ImageList_ReplaceIcon", CountIcon);
     addBitmap = bitmaps.Original<int(HIMAGELIST, HBITMAP, HBITMAP)>();
     addIcon = icons.Original<int(HIMAGELIST, int, HICON)>();
 
-    SHFILEINFOW info = {};
-    const auto list = reinterpret_cast<HIMAGELIST>(
-        SHGetFileInfo(L"\\", 0, &info, sizeof info, SHGFI_SYSICONINDEX | SHGFI_SMALLICON));
+    HIMAGELIST list = library.IconList();
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(additions, 1);
     EXPECT_EQ(iconsAddedSingly, 0);

@@ -30,6 +30,5 @@ TEST_F(NoticeOrderTest, HidingTheProgramHidesItBehindTheHomeScreen)
     EXPECT_EQ(GetWindowLongW(notice, GWL_EXSTYLE) & WS_EX_TOPMOST, 0) << "it would be in front of everything";
     program->Command(HideCommand);
     ASSERT_TRUE(InFront(home));
-    Send(main, WM_NULL);
-    EXPECT_TRUE(IsBefore(home, notice));
+    EXPECT_TRUE(WaitFor([&] { return IsBefore(home, notice); }));
 }

@@ -12,7 +12,7 @@ struct SHMENUBARINFO
     HINSTANCE hInstRes;
     int nBmpId;
     int cBmpImages;
-    HWND hwndMB; // out
+    HWND hwndMB;    // out
     COLORREF clrBk; // not in the record's older form
 };
 

@@ -116,8 +116,8 @@ class Image final : public ComObject<Image, IImage, IID_IImage>
         const BLENDFUNCTION blend = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
         const BOOL drawn =
             GdiAlphaBlend(target, targetRect->left, targetRect->top, targetRect->right - targetRect->left,
-                       targetRect->bottom - targetRect->top, canvas.Dc(), source.left, source.top,
-                       source.right - source.left, source.bottom - source.top, blend);
+                          targetRect->bottom - targetRect->top, canvas.Dc(), source.left, source.top,
+                          source.right - source.left, source.bottom - source.top, blend);
         return drawn ? S_OK : E_FAIL;
     }
 

@@ -64,7 +64,11 @@ TEST(PlatformDeviceTest, AnOddHandleIsNoWindow)
     const HWND window =
         CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
     EXPECT_TRUE(IsWindow(window));
-    EXPECT_FALSE(IsWindow(reinterpret_cast<HWND>(reinterpret_cast<UINT_PTR>(window) | 1)));
+    // Another process's windows are known to the system by the upper bits alone.
+    for (const HWND known : {window, GetDesktopWindow(), FindWindowW(L"Shell_TrayWnd", nullptr)}) {
+        ASSERT_TRUE(IsWindow(known));
+        EXPECT_FALSE(IsWindow(reinterpret_cast<HWND>(reinterpret_cast<UINT_PTR>(known) | 1)));
+    }
     DestroyWindow(window);
     EXPECT_FALSE(IsWindow(window));
 }

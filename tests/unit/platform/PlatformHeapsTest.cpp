@@ -140,3 +140,38 @@ TEST_F(PlatformHeapsTest, ARecordWithoutItsSizeOrAnUnknownHeapIsRefused)
     EXPECT_FALSE(Heap32First(snapshot, &entry, GetCurrentProcessId() + 4, 1));
     EXPECT_TRUE(CloseToolhelp32Snapshot(snapshot));
 }
+
+TEST_F(PlatformHeapsTest, TheHeapBehindTheLastIsRefused)
+{
+    const Child child(L"C:\\windows\\system32\\winver.exe");
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, child.Id());
+    ASSERT_NE(snapshot, INVALID_HANDLE_VALUE);
+    HEAPENTRY32 entry = {};
+    entry.dwSize = sizeof entry;
+    EXPECT_TRUE(Heap32First(snapshot, &entry, child.Id(), 1));
+    EXPECT_FALSE(Heap32First(snapshot, &entry, child.Id(), 2));
+    EXPECT_TRUE(CloseToolhelp32Snapshot(snapshot));
+}
+
+TEST_F(PlatformHeapsTest, AWalkCanBeginAgain)
+{
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, GetCurrentProcessId());
+    ASSERT_NE(snapshot, INVALID_HANDLE_VALUE);
+    HEAPLIST32 list = {};
+    list.dwSize = sizeof list;
+    ASSERT_TRUE(Heap32ListFirst(snapshot, &list));
+    const auto firstHeap = list.th32HeapID;
+    HEAPENTRY32 entry = {};
+    entry.dwSize = sizeof entry;
+    ASSERT_TRUE(Heap32First(snapshot, &entry, list.th32ProcessID, firstHeap));
+    const DWORD firstBlock = entry.dwBlockSize;
+    while (Heap32Next(snapshot, &entry)) {
+    }
+    EXPECT_TRUE(Heap32First(snapshot, &entry, list.th32ProcessID, firstHeap));
+    EXPECT_EQ(entry.dwBlockSize, firstBlock);
+    while (Heap32ListNext(snapshot, &list)) {
+    }
+    ASSERT_TRUE(Heap32ListFirst(snapshot, &list));
+    EXPECT_EQ(list.th32HeapID, firstHeap);
+    EXPECT_TRUE(CloseToolhelp32Snapshot(snapshot));
+}

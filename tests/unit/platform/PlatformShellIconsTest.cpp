@@ -1,5 +1,6 @@
 // The shell's small icons as the coredll substitute gives them.
 #include "platform/ce.h"
+#include "tests/support/ImportHook.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -93,4 +94,45 @@ TEST(PlatformShellIconsTest, AnIconSizeThatCannotBeReadIsSmall)
     EXPECT_FALSE(ImageList_GetIconSize(nullptr, &width, &height));
     EXPECT_EQ(width, 16);
     EXPECT_EQ(height, 16);
+}
+
+TEST(PlatformShellIconsTest, AShortcutToAShortcutHasTheShortcutsIcon)
+{
+    const TempFolder folder;
+    const std::wstring first = folder.Path(L"First.lnk");
+    const std::wstring second = folder.Path(L"Second.lnk");
+    const auto linkTo = [](const std::wstring& path) {
+        const std::string target(path.begin(), path.end());
+        const std::string text = std::to_string(target.size()) + "#" + target;
+        return std::vector<unsigned char>(text.begin(), text.end());
+    };
+    folder.WriteFile(L"First.lnk", linkTo(second));
+    folder.WriteFile(L"Second.lnk", linkTo(first));
+    EXPECT_EQ(IndexOf(first.c_str()), 6);
+    EXPECT_EQ(IndexOf(second.c_str()), 6);
+}
+
+TEST(PlatformShellIconsTest, ADriveIsNoFolder)
+{
+    EXPECT_EQ(IndexOf(L"C:\\"), 4);
+    EXPECT_EQ(IndexOf(L"C:\\windows\\"), 3);
+}
+
+static int destroyedIcons;
+
+static BOOL WINAPI CountDestroyed(HICON icon)
+{
+    ++destroyedIcons;
+    using Destroy = BOOL(WINAPI*)(HICON);
+    static const auto destroy = reinterpret_cast<Destroy>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "DestroyIcon")));
+    return destroy(icon);
+}
+
+TEST(PlatformShellIconsTest, AnIconThatWasCopiedIntoTheListIsDestroyed)
+{
+    const ImportHook hook(GetModuleHandleW(L"coredll.dll"), "DestroyIcon", CountDestroyed);
+    destroyedIcons = 0;
+    EXPECT_GE(IndexOf(L"C:\\windows\\regedit.exe"), 9);
+    EXPECT_EQ(destroyedIcons, 1);
 }

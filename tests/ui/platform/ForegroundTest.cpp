@@ -1,15 +1,26 @@
 // Windows that come to the front and go to the background, also those of a thread that does not answer.
 #include "tests/ui/UiTest.h"
 
+#include <algorithm>
 #include <thread>
 
 class ForegroundTest : public UiTest
 {
   protected:
-    static HWND MakeWindow()
+    static HWND MakeWindow(HWND owner = nullptr, DWORD exStyle = 0)
     {
-        return CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 10, 60, 100, 80, nullptr, nullptr,
-                               nullptr, nullptr);
+        return CreateWindowExW(exStyle, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 10, 60, 100, 80, owner,
+                               nullptr, nullptr, nullptr);
+    }
+
+    // One of several windows that is in front of the others.
+    static HWND FrontOf(const std::vector<HWND>& windows)
+    {
+        HWND front = GetTopWindow(GetDesktopWindow());
+        while (front != nullptr && std::find(windows.begin(), windows.end(), front) == windows.end()) {
+            front = GetWindow(front, GW_HWNDNEXT);
+        }
+        return front;
     }
 };
 
@@ -86,5 +97,85 @@ TEST_F(ForegroundTest, MinimisingDoesNotWaitForTheWindowsBehind)
     EXPECT_TRUE(silent.LetGo());
     EXPECT_TRUE(IsWindowVisible(window));
     EXPECT_FALSE(IsIconic(window));
+    DestroyWindow(window);
+}
+
+TEST_F(ForegroundTest, PopUpsComeWithTheirOwnerInTheOrderTheyHad)
+{
+    const HWND window = MakeWindow();
+    const HWND below = MakeWindow(window);
+    const HWND above = MakeWindow(window);
+    const HWND other = MakeWindow();
+    ASSERT_EQ(FrontOf({window, below, above, other}), other);
+    SetForegroundWindow(window);
+    EXPECT_TRUE(PumpUntil([&] { return FrontOf({below, above, other}) != other; }));
+    EXPECT_EQ(FrontOf({window, below, above, other}), above);
+    EXPECT_EQ(FrontOf({window, below, other}), below);
+    EXPECT_EQ(FrontOf({window, other}), window);
+    DestroyWindow(other);
+    DestroyWindow(window);
+}
+
+TEST_F(ForegroundTest, ADisabledWindowHandsTheForegroundToTheOneItWaitsFor)
+{
+    const HWND window = MakeWindow();
+    const HWND box = MakeWindow(window);
+    const HWND bar = MakeWindow(window, WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW);
+    const HWND other = MakeWindow();
+    EnableWindow(window, FALSE);
+    SetForegroundWindow(other);
+    ASSERT_EQ(GetForegroundWindow(), other);
+    SetForegroundWindow(window);
+    EXPECT_TRUE(PumpUntil([&] { return GetForegroundWindow() != other; }));
+    EXPECT_EQ(GetForegroundWindow(), box);
+    DestroyWindow(bar);
+    DestroyWindow(other);
+    DestroyWindow(window);
+}
+
+TEST_F(ForegroundTest, ShowingACoveredWindowBringsItToTheFront)
+{
+    const HWND window = MakeWindow();
+    const HWND other = MakeWindow();
+    SetForegroundWindow(other);
+    ASSERT_EQ(FrontOf({window, other}), other);
+    ShowWindow(window, SW_SHOWNA);
+    EXPECT_EQ(GetForegroundWindow(), other) << "it was shown without being activated";
+    EXPECT_TRUE(ShowWindow(window, SW_SHOW));
+    EXPECT_TRUE(PumpUntil([&] { return GetForegroundWindow() == window; }));
+    EXPECT_EQ(FrontOf({window, other}), window);
+    DestroyWindow(other);
+    DestroyWindow(window);
+}
+
+TEST_F(ForegroundTest, MinimisingActivatesTheNextWindowThatCanBeActive)
+{
+    const HWND next = MakeWindow();
+    const HWND tool = MakeWindow(nullptr, WS_EX_TOOLWINDOW);
+    const HWND disabled = MakeWindow();
+    EnableWindow(disabled, FALSE);
+    const HWND window = MakeWindow();
+    SetForegroundWindow(window);
+    ASSERT_EQ(GetForegroundWindow(), window);
+    ShowWindow(window, SW_MINIMIZE);
+    EXPECT_TRUE(PumpUntil([&] { return GetForegroundWindow() != window; }));
+    EXPECT_EQ(GetForegroundWindow(), next);
+    EXPECT_NE(FrontOf({window, next, tool, disabled}), window);
+    for (const HWND each : {next, tool, disabled, window}) {
+        DestroyWindow(each);
+    }
+}
+
+// The device's sign for "with its pop-ups", which come always.
+TEST_F(ForegroundTest, TheLowestBitOfTheHandleDoesNotMatter)
+{
+    const HWND window = MakeWindow();
+    const HWND other = MakeWindow();
+    SetForegroundWindow(other);
+    ASSERT_EQ(GetForegroundWindow(), other);
+    EXPECT_TRUE(SetForegroundWindow(reinterpret_cast<HWND>(reinterpret_cast<UINT_PTR>(window) | 1)));
+    EXPECT_TRUE(PumpUntil([&] { return GetForegroundWindow() == window; }));
+    EXPECT_EQ(FrontOf({window, other}), window);
+    DestroyWindow(other);
     DestroyWindow(window);
 }

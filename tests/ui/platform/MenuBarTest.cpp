@@ -122,3 +122,15 @@ TEST_F(MenuBarTest, ABarIsSeenAndGoesWithItsOwner)
     DestroyWindow(owner);
     EXPECT_FALSE(IsWindow(bar));
 }
+
+TEST_F(MenuBarTest, ABarIsHiddenWhileItsOwnerIsMinimised)
+{
+    const HWND bar = Bar(IDB_OWN_WORDS);
+    ShowWindow(owner, SW_SHOW);
+    ASSERT_TRUE(IsWindowVisible(bar));
+    ShowWindow(owner, SW_MINIMIZE);
+    EXPECT_TRUE(IsWindowVisible(owner)) << "it only goes behind the others";
+    EXPECT_FALSE(IsWindowVisible(bar));
+    SetForegroundWindow(owner);
+    EXPECT_TRUE(PumpUntil([=] { return IsWindowVisible(bar) != FALSE; }));
+}

@@ -33,15 +33,18 @@ void CVireoApp::ActivateView(int32_t id)
     CVireoView* view = FindView(id);
     Assert(view != nullptr, ErrorNotFound, L"CVireoApp::ActivateView", __LINE__);
 
+    // Whatever lets messages in may end the main window with all its views, or show another one: only the
+    // copies of what the view says are used meanwhile.
+    HWND shown = view->Window();
+    const uint32_t menuBarId = view->MenuBarId();
     activeView = view;
     RECT client = {};
     GetClientRect(mainWindow, &client);
-    MoveWindow(view->Window(), 0, 0, client.right, client.bottom, FALSE);
-    CreateMenuBar(mainWindow, view->MenuBarId());
-    ShowWindow(view->Window(), SW_SHOWNORMAL);
-    SetFocus(view->Window());
-    UpdateWindow(view->Window());
-    // Whatever lets messages in may end the main window with all its views, or show another one.
+    MoveWindow(shown, 0, 0, client.right, client.bottom, FALSE);
+    CreateMenuBar(mainWindow, menuBarId);
+    ShowWindow(shown, SW_SHOWNORMAL);
+    SetFocus(shown);
+    UpdateWindow(shown);
     if (activeView == view) {
         view->OnActivate(previous != nullptr ? previous->Id() : 0);
     }

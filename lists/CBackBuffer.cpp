@@ -13,8 +13,14 @@ void CBackBuffer::Resize(HWND window, int newWidth, int newHeight)
     height = newHeight;
     const WindowDC screen(window);
     dc = CreateCompatibleDC(screen);
+    if (dc == nullptr) {
+        return;
+    }
     bitmap = CreateCompatibleBitmap(screen, width, height);
     previousBitmap = SelectObject(dc, bitmap);
+    if (bitmap == nullptr) {
+        Free(); // a context of one pixel is nothing to draw in
+    }
 }
 
 void CBackBuffer::Free()

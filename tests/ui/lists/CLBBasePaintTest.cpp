@@ -340,3 +340,30 @@ TEST_F(CLBBasePaintTest, ARowPaintedOffTheScreenShowsNothingBeforeItIsWhole)
     EXPECT_EQ(Pixels::Of(list->Window()).Count({0, Top(0), ListOwner::width, Top(3)}, RGB(0, 0, 0)),
               ListOwner::width * (Top(3) - Top(0)));
 }
+
+TEST_F(CLBBasePaintTest, WithoutMemoryForABackBufferNothingIsDrawn)
+{
+    Construct(3);
+    PaintAll();
+    owner->TakeRows();
+    copies.clear();
+    list->drawRow = [](HDC target, const RECT& rect, uint32_t, bool) {
+        FillRect(target, &rect, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+    };
+    {
+        const SPY(CreateCompatibleDC) create([](HDC) { return HDC{nullptr}; });
+        // Another size than its window's: the buffer goes, and the next paint asks for one anew.
+        SendMessageW(list->Window(), WM_SIZE, 0, MAKELPARAM(50, 50));
+        PaintAll();
+        EXPECT_EQ(create.calls.size(), 2U);
+    }
+    EXPECT_EQ(list->buffer.DC(), nullptr);
+    EXPECT_TRUE(owner->TakeRows().empty());
+    EXPECT_TRUE(copies.empty());
+    EXPECT_EQ(Pixels::Of(list->Window()).Count({0, 0, ListOwner::width, ListOwner::height}, RGB(0, 0, 0)), 0);
+
+    PaintAll();
+    EXPECT_EQ(owner->TakeRows(), Rows(0, 2));
+    EXPECT_EQ(Pixels::Of(list->Window()).Count({0, Top(0), ListOwner::width, Top(3)}, RGB(0, 0, 0)),
+              ListOwner::width * (Top(3) - Top(0)));
+}

@@ -35,3 +35,18 @@ TEST_F(IconSizesTest, TheWidthAloneDecidesOnTheLargeSize)
         EXPECT_EQ(icons.LargeSize(), each.large) << each.width << " x " << each.height;
     }
 }
+
+TEST_F(IconSizesTest, AListThatCannotTellHasIconsOfSixteenPixels)
+{
+    SSystemIcons icons = Fetched(32, 48);
+    const SPY(ImageList_GetIconSize) size([](HIMAGELIST, int*, int*) { return FALSE; });
+    icons.Fetch();
+    EXPECT_EQ(size.calls.size(), 1U);
+    EXPECT_EQ(icons.width, 16);
+    EXPECT_EQ(icons.height, 16);
+    SSystemIcons fresh;
+    fresh.Fetch();
+    EXPECT_EQ(fresh.width, 16);
+    EXPECT_EQ(fresh.height, 16);
+    EXPECT_EQ(fresh.LargeSize(), 32);
+}

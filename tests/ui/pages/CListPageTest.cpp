@@ -217,3 +217,75 @@ TEST_F(CListPageTest, ThePageDrawsItsTitleInBold)
         EXPECT_EQ(font.lfWeight, FW_BOLD);
     });
 }
+
+TEST_F(CListPageTest, ARefreshKeepsTheNumberOfTheSelectedRow)
+{
+    WithPage([](TestApp&, Page& page) {
+        for (const int row : {7, 39, 0}) {
+            page.list.SelectRow(row);
+            page.filled.clear();
+            SendMessageW(page.Window(), WM_COMMAND, CMD_REFRESH, 0);
+            EXPECT_EQ(page.filled, std::vector<int>{row});
+            EXPECT_EQ(page.list.SelectedRow(), row);
+        }
+        page.list.SelectRow(-1);
+        page.filled.clear();
+        page.Refresh();
+        EXPECT_EQ(page.filled, std::vector<int>{-1});
+    });
+}
+
+TEST_F(CListPageTest, AMarkBehindTheLastRowIsNoRowToKeep)
+{
+    WithPage([](TestApp&, Page& page) {
+        page.list.SelectRow(30);
+        page.list.SetCount(30);
+        ASSERT_EQ(page.list.SelectionMark(), 30);
+        page.filled.clear();
+        page.Refresh();
+        EXPECT_EQ(page.filled, std::vector<int>{-1});
+    });
+}
+
+TEST_F(CListPageTest, AShrinkingListMovesTheMarkToItsLastRow)
+{
+    WithPage([](TestApp&, Page& page) {
+        page.list.SelectRow(30);
+        page.rows = 31;
+        page.Refresh();
+        EXPECT_EQ(page.list.SelectedRow(), 30) << "it is still a row";
+        for (const uint32_t rows : {30U, 10U, 1U}) {
+            page.rows = rows;
+            page.Refresh();
+            const auto last = static_cast<int>(rows) - 1;
+            EXPECT_EQ(page.list.SelectionMark(), last);
+            const LRESULT state = SendMessageW(page.list.Window(), LVM_GETITEMSTATE,
+                                               static_cast<WPARAM>(last), LVIS_SELECTED | LVIS_FOCUSED);
+            EXPECT_EQ(state, LVIS_SELECTED | LVIS_FOCUSED) << rows;
+        }
+        page.rows = 0;
+        page.Refresh();
+        EXPECT_EQ(page.list.SelectionMark(), -1);
+        page.rows = 5;
+        page.Refresh();
+        EXPECT_EQ(page.list.SelectedRow(), -1) << "a new row is not selected by itself";
+    });
+}
+
+TEST_F(CListPageTest, ActivationPaintsTheStripAtOnce)
+{
+    WithPage([](TestApp&, Page& page) {
+        ValidateRect(page.Window(), nullptr);
+        std::vector<RECT> areas;
+        const SPY(BeginPaint) begin([&](HWND window, PAINTSTRUCT* paint) {
+            HDC target = begin.Real(window, paint);
+            if (window == page.Window()) {
+                areas.push_back(paint->rcPaint);
+            }
+            return target;
+        });
+        page.OnActivate(1);
+        EXPECT_EQ(areas, (std::vector<RECT>{{0, 0, ClientSize(page.Window()).cx, page.HeaderHeight()}}));
+        EXPECT_FALSE(GetUpdateRect(page.Window(), nullptr, FALSE));
+    });
+}

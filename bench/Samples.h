@@ -17,8 +17,9 @@ class Samples
     // The value below which this part of the measurements lies; 0.5 is the median. 0 without any.
     double At(double part) const
     {
-        if (values.empty())
+        if (values.empty()) {
             return 0;
+        }
         std::vector<double> sorted = values;
         std::sort(sorted.begin(), sorted.end());
         return sorted[static_cast<size_t>(part * static_cast<double>(sorted.size() - 1) + 0.5)];
@@ -38,8 +39,9 @@ class Pairs
     {
         ones.Add(one);
         others.Add(other);
-        if (other > 0)
+        if (other > 0) {
             ratios.Add(one / other);
+        }
     }
     const Samples& Ones() const { return ones; }
     const Samples& Others() const { return others; }

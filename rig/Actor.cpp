@@ -5,31 +5,29 @@
 #include "rig/WaitFor.h"
 
 namespace rig {
-namespace {
 
-template <size_t Size>
-bool CopyText(const std::wstring& text, wchar_t (&buffer)[Size])
+template <size_t size>
+static bool CopyText(const std::wstring& text, wchar_t (&buffer)[size])
 {
-    if (text.size() >= Size)
+    if (text.size() >= size) {
         return false;
+    }
     text.copy(buffer, text.size());
     buffer[text.size()] = L'\0';
     return true;
 }
 
-LRESULT Order(HWND control, actor::Order order, const void* data, size_t size)
+static LRESULT Order(HWND control, actor::Order order, const void* data, size_t size)
 {
     COPYDATASTRUCT copy = {order, static_cast<DWORD>(size), const_cast<void*>(data)};
     return Send(control, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&copy));
 }
 
-} // namespace
-
 Actor::Actor(const std::wstring& executable) : process(executable, L"")
 {
     const std::wstring id = std::to_wstring(process.Id());
     WaitFor([&] {
-        control = FindWindowExW(HWND_MESSAGE, nullptr, actor::ControlClass, id.c_str());
+        control = FindWindowExW(HWND_MESSAGE, nullptr, actor::controlClass, id.c_str());
         return control || !process.Running();
     });
 }
@@ -37,8 +35,9 @@ Actor::Actor(const std::wstring& executable) : process(executable, L"")
 HWND Actor::Make(const ActorWindowSpec& spec) const
 {
     actor::WindowOrder order = {};
-    if (!CopyText(spec.className, order.className) || !CopyText(spec.title, order.title))
+    if (!CopyText(spec.className, order.className) || !CopyText(spec.title, order.title)) {
         return nullptr;
+    }
     order.style = spec.style;
     order.exStyle = spec.exStyle;
     order.owner = spec.owner;
@@ -62,17 +61,17 @@ void Actor::Focus(HWND window) const
 
 int CloseCount(HWND window)
 {
-    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::CloseCountMessage)));
+    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::closeCountMessage)));
 }
 
 int KeyCount(HWND window)
 {
-    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::KeyCountMessage)));
+    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::keyCountMessage)));
 }
 
 int MoveCount(HWND window)
 {
-    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::MoveCountMessage)));
+    return static_cast<int>(Send(window, RegisterWindowMessageW(actor::moveCountMessage)));
 }
 
 } // namespace rig

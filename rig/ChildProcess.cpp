@@ -2,24 +2,26 @@
 #include "rig/ChildProcess.h"
 
 namespace rig {
+
 namespace {
 
 // The tests write boxes to their output instead of showing them; a program under test is to show its own.
 class BoxesShown
 {
-    static constexpr const wchar_t* Variable = L"HANDHELD_HEADLESS";
+    static constexpr const wchar_t* variable = L"HANDHELD_HEADLESS";
     wchar_t before[16] = {};
     bool wasSet;
 
   public:
-    BoxesShown() : wasSet(GetEnvironmentVariableW(Variable, before, 16) != 0)
+    BoxesShown() : wasSet(GetEnvironmentVariableW(variable, before, 16) != 0)
     {
-        SetEnvironmentVariableW(Variable, nullptr);
+        SetEnvironmentVariableW(variable, nullptr);
     }
     ~BoxesShown()
     {
-        if (wasSet)
-            SetEnvironmentVariableW(Variable, before);
+        if (wasSet) {
+            SetEnvironmentVariableW(variable, before);
+        }
     }
     BoxesShown(const BoxesShown&) = delete;
     BoxesShown& operator=(const BoxesShown&) = delete;
@@ -32,12 +34,14 @@ ChildProcess::ChildProcess(const std::wstring& executable, const std::wstring& a
 {
     const BoxesShown guard;
     std::wstring commandLine = L"\"" + executable + L"\"";
-    if (!arguments.empty())
+    if (!arguments.empty()) {
         commandLine += L" " + arguments;
+    }
     const wchar_t* const where = folder.empty() ? nullptr : folder.c_str();
     // No program has run yet when this fails, as it now and then does under Wine 8.0 on a busy machine.
-    for (int tries = 0; tries < 3 && !Create(commandLine, where); tries++)
+    for (int tries = 0; tries < 3 && !Create(commandLine, where); tries++) {
         Sleep(100);
+    }
 }
 
 bool ChildProcess::Create(std::wstring commandLine, const wchar_t* folder)
@@ -60,8 +64,9 @@ bool ChildProcess::Create(std::wstring commandLine, const wchar_t* folder)
 ChildProcess::~ChildProcess()
 {
     Terminate();
-    if (process)
+    if (process) {
         CloseHandle(process);
+    }
 }
 
 bool ChildProcess::Running() const
@@ -73,8 +78,9 @@ std::optional<DWORD> ChildProcess::ExitCode(std::chrono::milliseconds timeout) c
 {
     DWORD code = 0;
     if (!process || WaitForSingleObject(process, static_cast<DWORD>(timeout.count())) != WAIT_OBJECT_0 ||
-        !GetExitCodeProcess(process, &code))
+        !GetExitCodeProcess(process, &code)) {
         return std::nullopt;
+    }
     return code;
 }
 
@@ -88,8 +94,9 @@ void ChildProcess::Terminate()
 
 void ChildProcess::Release()
 {
-    if (process)
+    if (process) {
         CloseHandle(process);
+    }
     process = nullptr;
 }
 

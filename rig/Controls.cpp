@@ -5,18 +5,21 @@
 #include "rig/RemoteMemory.h"
 
 namespace rig {
-namespace {
 
-constexpr int LongestItemText = 1024;
+static constexpr int longestItemText = 1024;
+
+namespace {
 
 // The structure of a message and its text lie side by side in the tree's process.
 struct ItemBlock
 {
     TVITEMEXW item;
-    wchar_t text[LongestItemText];
+    wchar_t text[longestItemText];
 };
 
-TreeItem ReadItem(HWND tree, const RemoteMemory& memory, HTREEITEM handle, int depth)
+} // namespace
+
+static TreeItem ReadItem(HWND tree, const RemoteMemory& memory, HTREEITEM handle, int depth)
 {
     static ItemBlock block;
     block = {};
@@ -24,11 +27,11 @@ TreeItem ReadItem(HWND tree, const RemoteMemory& memory, HTREEITEM handle, int d
     block.item.hItem = handle;
     block.item.stateMask = TVIS_SELECTED | TVIS_EXPANDED;
     block.item.pszText = static_cast<ItemBlock*>(memory.Address())->text;
-    block.item.cchTextMax = LongestItemText;
+    block.item.cchTextMax = longestItemText;
     memory.Write(&block, sizeof(block));
     Send(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(memory.Address()));
     memory.Read(&block, sizeof(block));
-    block.text[LongestItemText - 1] = L'\0';
+    block.text[longestItemText - 1] = L'\0';
     return {handle,
             block.text,
             block.item.lParam,
@@ -37,22 +40,20 @@ TreeItem ReadItem(HWND tree, const RemoteMemory& memory, HTREEITEM handle, int d
             (block.item.state & TVIS_EXPANDED) != 0};
 }
 
-HTREEITEM NextItem(HWND tree, UINT relation, HTREEITEM item)
+static HTREEITEM NextItem(HWND tree, UINT relation, HTREEITEM item)
 {
     return reinterpret_cast<HTREEITEM>(Send(tree, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
 }
 
 // Adds an item, all below it, and its later siblings.
-void ReadBranch(HWND tree, const RemoteMemory& memory, HTREEITEM item, int depth,
-                std::vector<TreeItem>& items)
+static void ReadBranch(HWND tree, const RemoteMemory& memory, HTREEITEM item, int depth,
+                       std::vector<TreeItem>& items)
 {
     for (; item; item = NextItem(tree, TVGN_NEXT, item)) {
         items.push_back(ReadItem(tree, memory, item, depth));
         ReadBranch(tree, memory, NextItem(tree, TVGN_CHILD, item), depth + 1, items);
     }
 }
-
-} // namespace
 
 int ListCount(HWND list)
 {
@@ -87,8 +88,9 @@ std::optional<RECT> ListRowOnScreen(HWND list, int row)
     const RemoteMemory memory(list, sizeof(rect));
     if (!memory.Write(&rect, sizeof(rect)) ||
         !Send(list, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory.Address())) ||
-        !memory.Read(&rect, sizeof(rect)))
+        !memory.Read(&rect, sizeof(rect))) {
         return std::nullopt;
+    }
     MapWindowPoints(list, nullptr, reinterpret_cast<POINT*>(&rect), 2);
     return rect;
 }
@@ -97,8 +99,9 @@ std::vector<TreeItem> TreeItems(HWND tree)
 {
     std::vector<TreeItem> items;
     const RemoteMemory memory(tree, sizeof(ItemBlock));
-    if (memory.Address())
+    if (memory.Address()) {
         ReadBranch(tree, memory, NextItem(tree, TVGN_ROOT, nullptr), 0, items);
+    }
     return items;
 }
 

@@ -4,19 +4,18 @@
 #include "rig/WaitFor.h"
 
 namespace rig {
-namespace {
 
-constexpr UINT AnswerTime = 5000; // ms
-constexpr int LongestText = 32768;
-constexpr wchar_t MenuClass[] = L"#32768";
+static constexpr UINT answerTime = 5000; // ms
+static constexpr int longestText = 32768;
+static constexpr wchar_t menuClass[] = L"#32768";
 
-BOOL CALLBACK Collect(HWND window, LPARAM list)
+static BOOL CALLBACK Collect(HWND window, LPARAM list)
 {
     reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
     return TRUE;
 }
 
-bool Fits(HWND window, const WindowQuery& query)
+static bool Fits(HWND window, const WindowQuery& query)
 {
     return (!query.visible || IsWindowVisible(window)) &&
            (query.className.empty() || ClassOf(window) == query.className) &&
@@ -25,24 +24,24 @@ bool Fits(HWND window, const WindowQuery& query)
            (query.title.empty() || TextOf(window) == query.title);
 }
 
-bool IsOrIsOwnedBy(HWND window, HWND owner)
+static bool IsOrIsOwnedBy(HWND window, HWND owner)
 {
-    while (window && window != owner)
+    while (window && window != owner) {
         window = GetWindow(window, GW_OWNER);
+    }
     return window != nullptr;
 }
 
 // Whether no other program's window is before it.
-bool IsFrontMost(HWND wanted)
+static bool IsFrontMost(HWND wanted)
 {
     for (HWND window : TopWindows()) {
-        if (IsWindowVisible(window) && !(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW))
+        if (IsWindowVisible(window) && !(GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW)) {
             return IsOrIsOwnedBy(window, wanted);
+        }
     }
     return false;
 }
-
-} // namespace
 
 std::vector<HWND> TopWindows()
 {
@@ -54,8 +53,9 @@ std::vector<HWND> TopWindows()
 HWND FindTopWindow(const WindowQuery& query)
 {
     for (HWND window : TopWindows()) {
-        if (Fits(window, query))
+        if (Fits(window, query)) {
             return window;
+        }
     }
     return nullptr;
 }
@@ -69,8 +69,9 @@ HWND FindTopWindowByPrefix(const std::wstring& classPrefix, DWORD process)
 {
     for (HWND window : TopWindows()) {
         if (IsWindowVisible(window) && ProcessOf(window) == process &&
-            ClassOf(window).starts_with(classPrefix))
+            ClassOf(window).starts_with(classPrefix)) {
             return window;
+        }
     }
     return nullptr;
 }
@@ -80,8 +81,9 @@ HWND FindDescendant(HWND parent, const std::wstring& className, int id)
     std::vector<HWND> windows;
     EnumChildWindows(parent, Collect, reinterpret_cast<LPARAM>(&windows));
     for (HWND window : windows) {
-        if (ClassOf(window) == className && (id == -1 || GetDlgCtrlID(window) == id))
+        if (ClassOf(window) == className && (id == -1 || GetDlgCtrlID(window) == id)) {
             return window;
+        }
     }
     return nullptr;
 }
@@ -102,7 +104,7 @@ DWORD ProcessOf(HWND window)
 
 std::wstring TextOf(HWND window)
 {
-    std::wstring text(LongestText, L'\0');
+    std::wstring text(longestText, L'\0');
     const LRESULT length =
         Send(window, WM_GETTEXT, static_cast<WPARAM>(text.size()), reinterpret_cast<LPARAM>(text.data()));
     text.resize(static_cast<size_t>(length));
@@ -114,19 +116,21 @@ std::wstring ExecutableOf(DWORD process)
     wchar_t path[MAX_PATH];
     DWORD size = MAX_PATH;
     const HANDLE handle = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
-    if (!handle)
+    if (!handle) {
         return {};
+    }
     const bool known = QueryFullProcessImageNameW(handle, 0, path, &size) != FALSE;
     CloseHandle(handle);
-    if (!known)
+    if (!known) {
         return {};
+    }
     const std::wstring whole(path, size);
     return whole.substr(whole.find_last_of(L'\\') + 1);
 }
 
 HWND OpenMenu()
 {
-    return FindTopWindow({.className = MenuClass});
+    return FindTopWindow({.className = menuClass});
 }
 
 HWND FocusOf(HWND window)
@@ -140,8 +144,9 @@ HWND FocusOf(HWND window)
 bool BringToFront(HWND window)
 {
     return WaitFor([=] {
-        if (GetForegroundWindow() == window)
+        if (GetForegroundWindow() == window) {
             return true;
+        }
         SetForegroundWindow(window);
         return GetForegroundWindow() == window;
     });
@@ -160,7 +165,7 @@ bool Raise(HWND window)
 LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     DWORD_PTR result = 0;
-    SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, AnswerTime, &result);
+    SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, answerTime, &result);
     return static_cast<LRESULT>(result);
 }
 

@@ -4,9 +4,8 @@
 #include "rig/WaitFor.h"
 
 namespace rig {
-namespace {
 
-void SendKey(WORD key, WORD character, DWORD flags)
+static void SendKey(WORD key, WORD character, DWORD flags)
 {
     INPUT input = {};
     input.type = INPUT_KEYBOARD;
@@ -17,13 +16,13 @@ void SendKey(WORD key, WORD character, DWORD flags)
 }
 
 // Absolute mouse positions count the screen in 65536 steps; rounded up, the result is the pixel meant.
-LONG Steps(LONG pixel, int size)
+static LONG Steps(LONG pixel, int size)
 {
     return static_cast<LONG>((static_cast<LONGLONG>(pixel) * 65536 + size - 1) / size);
 }
 
 // Moves and presses in one event: a late motion event of the X server cannot come between.
-void SendButton(POINT point, DWORD button)
+static void SendButton(POINT point, DWORD button)
 {
     INPUT input = {};
     input.type = INPUT_MOUSE;
@@ -32,8 +31,6 @@ void SendButton(POINT point, DWORD button)
     input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | button;
     SendInput(1, &input, sizeof(input));
 }
-
-} // namespace
 
 void KeyDown(WORD key)
 {
@@ -55,10 +52,12 @@ void PressKey(WORD key, int times)
 
 void PressChord(std::initializer_list<WORD> keys)
 {
-    for (WORD key : keys)
+    for (WORD key : keys) {
         KeyDown(key);
-    for (auto key = std::rbegin(keys); key != std::rend(keys); ++key)
+    }
+    for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) {
         KeyUp(*key);
+    }
 }
 
 void TypeText(const std::wstring& text)
@@ -82,8 +81,9 @@ void MoveTo(POINT point)
     WaitFor([=] {
         POINT now = {};
         SetCursorPos(point.x, point.y);
-        if (GetCursorPos(&now) && now.x == point.x && now.y == point.y)
+        if (GetCursorPos(&now) && now.x == point.x && now.y == point.y) {
             return true;
+        }
         SetCursorPos(point.x + 1, point.y);
         return false;
     });

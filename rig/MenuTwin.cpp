@@ -9,6 +9,7 @@
 #include <atomic>
 
 namespace rig {
+
 namespace {
 
 // What the thread that runs the menu shares with the one that looks at it.
@@ -23,8 +24,9 @@ struct Tracking
     {
         const auto* self = reinterpret_cast<Tracking*>(GetWindowLongPtrW(window, GWLP_USERDATA));
         // Timers go on while a menu is open.
-        if (message == WM_TIMER && self && self->close)
+        if (message == WM_TIMER && self && self->close) {
             EndMenu();
+        }
         return DefWindowProcW(window, message, wParam, lParam);
     }
 
@@ -43,24 +45,25 @@ struct Tracking
     }
 };
 
-HMENU MakeMenu(const std::vector<MenuLine>& lines)
+} // namespace
+
+static HMENU MakeMenu(const std::vector<MenuLine>& lines)
 {
     const HMENU menu = CreatePopupMenu();
     UINT_PTR id = 1;
     for (const MenuLine& line : lines) {
         const UINT greyed = line.greyed ? MF_GRAYED : 0;
-        if (line.text.empty())
+        if (line.text.empty()) {
             AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
-        else if (line.opensMenu)
+        } else if (line.opensMenu) {
             AppendMenuW(menu, MF_POPUP | greyed, reinterpret_cast<UINT_PTR>(CreatePopupMenu()),
                         line.text.c_str());
-        else
+        } else {
             AppendMenuW(menu, MF_STRING | greyed, id++, line.text.c_str());
+        }
     }
     return menu;
 }
-
-} // namespace
 
 MenuTwin::MenuTwin(const std::vector<MenuLine>& expected, POINT place, UINT flags)
 {

@@ -12,8 +12,9 @@ Picture Picture::Painted(SIZE size, const std::function<bool(HDC)>& paint)
     Picture picture;
     const int width = size.cx;
     const int height = size.cy;
-    if (width <= 0 || height <= 0)
+    if (width <= 0 || height <= 0) {
         return picture;
+    }
 
     BITMAPINFO format = {};
     format.bmiHeader.biSize = sizeof(format.bmiHeader);
@@ -34,8 +35,9 @@ Picture Picture::Painted(SIZE size, const std::function<bool(HDC)>& paint)
             picture.height = height;
             picture.pixels.assign(first, first + static_cast<size_t>(width) * static_cast<size_t>(height));
             // The fourth byte is not part of the colour, and not always zero.
-            for (uint32_t& pixel : picture.pixels)
+            for (uint32_t& pixel : picture.pixels) {
                 pixel &= 0xFFFFFF;
+            }
         }
         SelectObject(memory, before);
         DeleteObject(bitmap);
@@ -64,10 +66,10 @@ Picture Picture::OfScreen()
 Picture Picture::OfSettledScreen()
 {
     // Wine hands what a program has painted to the X server up to 50 ms later.
-    constexpr DWORD Pause = 150;
+    constexpr DWORD pause = 150;
     Picture last = OfScreen();
     WaitFor([&] {
-        Sleep(Pause);
+        Sleep(pause);
         Picture next = OfScreen();
         const bool same = next == last;
         last = std::move(next);
@@ -78,8 +80,9 @@ Picture Picture::OfSettledScreen()
 
 COLORREF Picture::At(int x, int y) const
 {
-    if (x < 0 || y < 0 || x >= width || y >= height)
+    if (x < 0 || y < 0 || x >= width || y >= height) {
         return CLR_INVALID;
+    }
     const uint32_t pixel =
         pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
     return RGB((pixel >> 16) & 0xFF, (pixel >> 8) & 0xFF, pixel & 0xFF);
@@ -89,8 +92,9 @@ int Picture::Count(COLORREF colour, const RECT& area) const
 {
     int count = 0;
     for (int y = area.top; y < area.bottom; y++) {
-        for (int x = area.left; x < area.right; x++)
+        for (int x = area.left; x < area.right; x++) {
             count += At(x, y) == colour ? 1 : 0;
+        }
     }
     return count;
 }

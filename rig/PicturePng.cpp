@@ -5,6 +5,7 @@
 #include <wincodec.h>
 
 namespace rig {
+
 namespace {
 
 // Holds one COM object.
@@ -19,15 +20,18 @@ class Held
     Held& operator=(const Held&) = delete;
     ~Held()
     {
-        if (object)
+        if (object) {
             object->Release();
+        }
     }
     Interface** Slot() { return &object; }
     Interface* Get() const { return object; }
     Interface* operator->() const { return object; }
 };
 
-bool WritePng(const std::wstring& path, UINT width, UINT height, const std::vector<uint32_t>& pixels)
+} // namespace
+
+static bool WritePng(const std::wstring& path, UINT width, UINT height, const std::vector<uint32_t>& pixels)
 {
     Held<IWICImagingFactory> factory;
     Held<IWICStream> stream;
@@ -50,16 +54,16 @@ bool WritePng(const std::wstring& path, UINT width, UINT height, const std::vect
            SUCCEEDED(encoder->Commit());
 }
 
-} // namespace
-
 bool Picture::SavePng(const std::wstring& path) const
 {
-    if (pixels.empty())
+    if (pixels.empty()) {
         return false;
+    }
     const HRESULT joined = CoInitializeEx(nullptr, COINIT_MULTITHREADED);
     const bool written = WritePng(path, static_cast<UINT>(width), static_cast<UINT>(height), pixels);
-    if (SUCCEEDED(joined))
+    if (SUCCEEDED(joined)) {
         CoUninitialize();
+    }
     return written;
 }
 

@@ -8,31 +8,30 @@
 #include <vector>
 
 namespace rig {
-namespace {
 
-constexpr wchar_t PageClassPrefix[] = L"QuorvaneV";
-constexpr wchar_t NoticeClassPrefix[] = L"QuorvaneIW";
-constexpr wchar_t DialogClass[] = L"#32770";
-constexpr int LastPage = 4;
-constexpr int ListId = 110;
-constexpr std::chrono::milliseconds EndingTime{3000};
+static constexpr wchar_t pageClassPrefix[] = L"QuorvaneV";
+static constexpr wchar_t noticeClassPrefix[] = L"QuorvaneIW";
+static constexpr wchar_t dialogClass[] = L"#32770";
+static constexpr int lastPage = 4;
+static constexpr int listId = 110;
+static constexpr std::chrono::milliseconds endingTime{3000};
 
-std::vector<HWND> MainWindows()
+static std::vector<HWND> MainWindows()
 {
     std::vector<HWND> windows;
     for (HWND window = nullptr;
-         (window = FindWindowExW(nullptr, window, MainWindowClass, nullptr)) != nullptr;)
+         (window = FindWindowExW(nullptr, window, mainWindowClass, nullptr)) != nullptr;) {
         windows.push_back(window);
+    }
     return windows;
 }
-
-} // namespace
 
 Program Program::Start(const std::wstring& arguments, const std::wstring& folder)
 {
     Program program;
-    if (!WaitFor([] { return MainWindows().empty(); }))
+    if (!WaitFor([] { return MainWindows().empty(); })) {
         return program;
+    }
     program.started = std::make_unique<ChildProcess>(folder + L"\\Quorvane.exe", arguments, L"C:\\");
     program.process = program.started->Id();
     return program;
@@ -41,9 +40,10 @@ Program Program::Start(const std::wstring& arguments, const std::wstring& folder
 Program Program::Running()
 {
     Program program;
-    program.main = FindTopWindow({.className = MainWindowClass, .title = MainWindowTitle, .visible = false});
-    if (program.main)
+    program.main = FindTopWindow({.className = mainWindowClass, .title = mainWindowTitle, .visible = false});
+    if (program.main) {
         program.process = ProcessOf(program.main);
+    }
     return program;
 }
 
@@ -52,7 +52,7 @@ Program::~Program()
     // Asked first, because an abrupt end leaves hot keys and settings as they are.
     if (IsRunning() && main && started) {
         PostMessageW(main, WM_CLOSE, 0, 0);
-        started->ExitCode(EndingTime);
+        started->ExitCode(endingTime);
     }
     // What a test sees next must not be of this program.
     if (started && process) {
@@ -63,10 +63,11 @@ Program::~Program()
 
 HWND Program::WaitForMainWindow()
 {
-    if (process == 0)
+    if (process == 0) {
         return nullptr;
+    }
     WaitFor([&] {
-        main = FindTopWindow({.className = MainWindowClass, .title = MainWindowTitle, .process = process});
+        main = FindTopWindow({.className = mainWindowClass, .title = mainWindowTitle, .process = process});
         return main || !IsRunning();
     });
     return main;
@@ -75,17 +76,19 @@ HWND Program::WaitForMainWindow()
 std::string Program::WhyNoMainWindow() const
 {
     std::ostringstream why;
-    if (!started)
+    if (!started) {
         why << "the window of an earlier program stayed";
-    else if (started->StartError() != 0)
+    } else if (started->StartError() != 0) {
         why << "the process could not be started, error " << started->StartError();
-    else if (const auto code = started->ExitCode())
+    } else if (const auto code = started->ExitCode()) {
         why << "process " << process << " ended with the exit code " << *code;
-    else
+    } else {
         why << "process " << process << " is running";
-    for (HWND window : MainWindows())
+    }
+    for (HWND window : MainWindows()) {
         why << "; there is a main window " << window << " of process " << ProcessOf(window)
             << (IsWindowVisible(window) ? ", visible" : ", hidden");
+    }
     return why.str();
 }
 
@@ -106,20 +109,21 @@ void Program::Command(int id) const
 
 HWND Program::Page(int number) const
 {
-    return FindDescendant(main, PageClassPrefix + std::to_wstring(number));
+    return FindDescendant(main, pageClassPrefix + std::to_wstring(number));
 }
 
 HWND Program::List(int number) const
 {
-    return FindDescendant(Page(number), L"SysListView32", ListId);
+    return FindDescendant(Page(number), L"SysListView32", listId);
 }
 
 int Program::VisiblePage() const
 {
-    for (int number = 1; number <= LastPage; number++) {
+    for (int number = 1; number <= lastPage; number++) {
         const HWND page = Page(number);
-        if (page && IsWindowVisible(page))
+        if (page && IsWindowVisible(page)) {
             return number;
+        }
     }
     return 0;
 }
@@ -131,7 +135,7 @@ bool Program::WaitForPage(int number) const
 
 HWND Program::Dialog() const
 {
-    return FindTopWindow({.className = DialogClass, .process = process});
+    return FindTopWindow({.className = dialogClass, .process = process});
 }
 
 HWND Program::WaitForDialog() const
@@ -141,7 +145,7 @@ HWND Program::WaitForDialog() const
 
 HWND Program::Notice() const
 {
-    return FindTopWindowByPrefix(NoticeClassPrefix, process);
+    return FindTopWindowByPrefix(noticeClassPrefix, process);
 }
 
 } // namespace rig

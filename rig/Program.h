@@ -9,8 +9,8 @@
 
 namespace rig {
 
-inline constexpr wchar_t MainWindowClass[] = L"QuorvaneApp";
-inline constexpr wchar_t MainWindowTitle[] = L"Quorvane";
+inline constexpr wchar_t mainWindowClass[] = L"QuorvaneApp";
+inline constexpr wchar_t mainWindowTitle[] = L"Quorvane";
 
 class Program
 {

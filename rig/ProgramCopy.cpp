@@ -7,15 +7,12 @@
 #include <system_error>
 
 namespace rig {
-namespace {
 
-bool BelongsToProgram(const std::filesystem::path& file)
+static bool BelongsToProgram(const std::filesystem::path& file)
 {
     const std::wstring name = file.filename().wstring();
     return name == L"Quorvane.exe" || name == L"Quorvane.zrs" || file.extension() == L".dll";
 }
-
-} // namespace
 
 ProgramCopy::ProgramCopy()
 {
@@ -31,11 +28,13 @@ ProgramCopy::ProgramCopy()
     fs::remove_all(to, error);
     fs::create_directories(to, error);
     for (const auto& entry : fs::directory_iterator(from, error)) {
-        if (!error && BelongsToProgram(entry.path()))
+        if (!error && BelongsToProgram(entry.path())) {
             fs::copy_file(entry.path(), to / entry.path().filename(), fs::copy_options::overwrite_existing,
                           error);
-        if (error)
+        }
+        if (error) {
             return;
+        }
     }
     fs::copy(from / L"profiles", to / L"profiles", fs::copy_options::recursive, error);
     complete = !error;

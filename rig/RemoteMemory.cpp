@@ -10,16 +10,19 @@ RemoteMemory::RemoteMemory(HWND window, size_t size)
 {
     process =
         OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, ProcessOf(window));
-    if (process)
+    if (process) {
         address = VirtualAllocEx(process, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    }
 }
 
 RemoteMemory::~RemoteMemory()
 {
-    if (address)
+    if (address) {
         VirtualFreeEx(process, address, 0, MEM_RELEASE);
-    if (process)
+    }
+    if (process) {
         CloseHandle(process);
+    }
 }
 
 bool RemoteMemory::Write(const void* data, size_t size, size_t offset) const

@@ -8,17 +8,18 @@
 namespace rig {
 
 // Longer than anything takes on a slow machine; a test that passes does not wait this long.
-inline constexpr std::chrono::milliseconds Patience{15000};
+inline constexpr std::chrono::milliseconds patience{15000};
 
 // Asks until the answer is true (a window, a count, a flag) or the time is up; returns the last answer.
 template <class Question>
-auto WaitFor(Question question, std::chrono::milliseconds timeout = Patience) -> decltype(question())
+auto WaitFor(Question question, std::chrono::milliseconds timeout = patience) -> decltype(question())
 {
     const auto deadline = std::chrono::steady_clock::now() + timeout;
     for (;;) {
         auto answer = question();
-        if (answer || std::chrono::steady_clock::now() >= deadline)
+        if (answer || std::chrono::steady_clock::now() >= deadline) {
             return answer;
+        }
         Sleep(20);
     }
 }

@@ -3,13 +3,13 @@
 
 #include <algorithm>
 
-static constexpr int TextLength = 260;
-static constexpr size_t MostTasks = 1000;
+static constexpr int textLength = 260;
+static constexpr size_t mostTasks = 1000;
 
 BareRebuild::BareRebuild(HWND taskList) : list(taskList)
 {
-    tasks.reserve(MostTasks);
-    processes.reserve(MostTasks);
+    tasks.reserve(mostTasks);
+    processes.reserve(mostTasks);
 }
 
 void BareRebuild::Run()
@@ -26,18 +26,22 @@ BOOL CALLBACK BareRebuild::AskWindow(HWND window, LPARAM self)
     auto& bare = *reinterpret_cast<BareRebuild*>(self);
     auto& tasks = bare.tasks;
     if (!IsWindowVisible(window) || !IsWindowEnabled(window) ||
-        (GetWindowLongPtrW(window, GWL_EXSTYLE) & (WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW)))
+        (GetWindowLongPtrW(window, GWL_EXSTYLE) & (WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW))) {
         return TRUE;
+    }
     HWND top = window;
-    while (const HWND owner = GetWindow(top, GW_OWNER))
+    while (const HWND owner = GetWindow(top, GW_OWNER)) {
         top = owner;
+    }
     const bool topVisible = IsWindowVisible(top) != FALSE;
-    wchar_t title[TextLength];
-    if (!GetWindowTextW(topVisible ? top : window, title, TextLength) &&
-        !GetWindowTextW(topVisible ? window : top, title, TextLength))
+    wchar_t title[textLength];
+    if (!GetWindowTextW(topVisible ? top : window, title, textLength) &&
+        !GetWindowTextW(topVisible ? window : top, title, textLength)) {
         return TRUE;
-    if (std::find(tasks.begin(), tasks.end(), top) != tasks.end())
+    }
+    if (std::find(tasks.begin(), tasks.end(), top) != tasks.end()) {
         return TRUE;
+    }
     bare.AskTask(top);
     tasks.push_back(top);
     return TRUE;
@@ -47,8 +51,8 @@ void BareRebuild::AskTask(HWND window)
 {
     DWORD processId = 0;
     GetWindowThreadProcessId(window, &processId);
-    wchar_t className[TextLength];
-    GetClassNameW(window, className, TextLength);
+    wchar_t className[textLength];
+    GetClassNameW(window, className, textLength);
     if (std::find(processes.begin(), processes.end(), processId) == processes.end()) {
         AskProcess(processId);
         processes.push_back(processId);
@@ -57,9 +61,9 @@ void BareRebuild::AskTask(HWND window)
 
 void BareRebuild::AskProcess(DWORD processId)
 {
-    wchar_t path[TextLength];
+    wchar_t path[textLength];
     // The device takes a process id in the place of a module handle.
-    if (GetModuleFileNameW(reinterpret_cast<HMODULE>(static_cast<ULONG_PTR>(processId)), path, TextLength)) {
+    if (GetModuleFileNameW(reinterpret_cast<HMODULE>(static_cast<ULONG_PTR>(processId)), path, textLength)) {
         SHFILEINFOW info;
         SHGetFileInfo(path, 0, &info, sizeof(info), SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
     }
@@ -69,8 +73,9 @@ void BareRebuild::AskProcess(DWORD processId)
 DWORD BareRebuild::WalkHeaps(DWORD processId)
 {
     const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, processId);
-    if (snapshot == INVALID_HANDLE_VALUE)
+    if (snapshot == INVALID_HANDLE_VALUE) {
         return 0;
+    }
     DWORD bytes = 0;
     HEAPLIST32 heap;
     heap.dwSize = sizeof(heap);
@@ -79,9 +84,9 @@ DWORD BareRebuild::WalkHeaps(DWORD processId)
     for (BOOL more = Heap32ListFirst(snapshot, &heap);
          more && Heap32First(snapshot, &entry, heap.th32ProcessID, heap.th32HeapID);
          more = Heap32ListNext(snapshot, &heap)) {
-        do
+        do {
             bytes += entry.dwBlockSize;
-        while (Heap32Next(snapshot, &entry));
+        } while (Heap32Next(snapshot, &entry));
     }
     CloseToolhelp32Snapshot(snapshot);
     return bytes;

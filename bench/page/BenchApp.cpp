@@ -12,8 +12,9 @@ int BenchApp::Start()
 CVireoView* BenchApp::FindView(int32_t id)
 {
     for (uint32_t i = 0; i < views->Count(); i++) {
-        if (views->At(i)->Id() == id)
+        if (views->At(i)->Id() == id) {
             return views->At(i);
+        }
     }
     return nullptr;
 }
@@ -33,8 +34,9 @@ bool BenchApp::OnCreate()
 // The measurements are one message: no timer's refresh comes between them.
 LRESULT BenchApp::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message != messageBody)
+    if (message != messageBody) {
         return CApp::WindowProc(message, wParam, lParam);
+    }
     body(*this);
     DestroyWindow(mainWindow);
     return 0;

@@ -5,10 +5,10 @@
 #include <cstdio>
 #include <memory>
 
-namespace {
+static constexpr int windowCounts[] = {10, 50, 200};
+static constexpr int programCount = 5; // that the windows belong to
 
-constexpr int WindowCounts[] = {10, 50, 200};
-constexpr int ProgramCount = 5; // that the windows belong to
+namespace {
 
 // The other programs and their windows.
 class Crowd
@@ -19,8 +19,9 @@ class Crowd
   public:
     Crowd()
     {
-        for (int i = 0; i < ProgramCount; i++)
+        for (int i = 0; i < programCount; i++) {
             programs.push_back(std::make_unique<rig::Actor>());
+        }
     }
 
     // False when a window could not be made.
@@ -30,32 +31,35 @@ class Crowd
         spec.place = {0, 2000, 10, 2010}; // below the screen, where they hide nothing
         for (; windows < count; windows++) {
             spec.title = L"Application " + std::to_wstring(windows + 1);
-            if (!programs[static_cast<size_t>(windows % ProgramCount)]->Make(spec))
+            if (!programs[static_cast<size_t>(windows % programCount)]->Make(spec)) {
                 return false;
+            }
         }
         return true;
     }
 };
 
-// Once there are more rows than the list can show.
-constexpr int RepaintWindows = 50;
+} // namespace
 
-bool Measure(BenchApp& app, Crowd& crowd)
+// Once there are more rows than the list can show.
+static constexpr int repaintWindows = 50;
+
+static bool Measure(BenchApp& app, Crowd& crowd)
 {
-    for (int count : WindowCounts) {
+    for (int count : windowCounts) {
         if (!crowd.GrowTo(count)) {
             std::fputs("bench_page: not all windows could be made\n", stderr);
             return false;
         }
-        if (!bench::MeasureRebuild(app, count))
+        if (!bench::MeasureRebuild(app, count)) {
             return false;
-        if (count == RepaintWindows)
+        }
+        if (count == repaintWindows) {
             bench::MeasureRepaint(app);
+        }
     }
     return true;
 }
-
-} // namespace
 
 int wmain()
 {

@@ -6,7 +6,7 @@
 namespace bench {
 
 // How long one row's measurements go on.
-inline constexpr double RowMs = 8000;
+inline constexpr double rowMs = 8000;
 
 // The rebuild of the running applications, among windows windows of other programs, against the bare calls.
 // False when the two did not list the same number of tasks.

@@ -5,31 +5,28 @@
 #include "bench/page/Measurements.h"
 
 namespace bench {
-namespace {
 
-constexpr int WarmUps = 5;
+static constexpr int warmUps = 5;
 
-double TimeOfPage(CViewTasks& page)
+static double TimeOfPage(CViewTasks& page)
 {
     const Stopwatch watch;
     page.FillList(-1);
     return watch.Milliseconds();
 }
 
-double TimeOfCalls(BareRebuild& bare)
+static double TimeOfCalls(BareRebuild& bare)
 {
     const Stopwatch watch;
     bare.Run();
     return watch.Milliseconds();
 }
 
-} // namespace
-
 bool MeasureRebuild(BenchApp& app, int windows)
 {
     CViewTasks& page = app.Tasks();
     BareRebuild bare(app.TaskList());
-    for (int i = 0; i < WarmUps; i++) {
+    for (int i = 0; i < warmUps; i++) {
         page.FillList(-1);
         bare.Run();
     }
@@ -42,7 +39,7 @@ bool MeasureRebuild(BenchApp& app, int windows)
     // In the order one, other, other, one, which takes out a load that rises or falls meanwhile.
     Pairs pairs;
     const Stopwatch whole;
-    while (whole.Milliseconds() < RowMs) {
+    while (whole.Milliseconds() < rowMs) {
         double ofPage = TimeOfPage(page);
         double ofCalls = TimeOfCalls(bare);
         ofCalls += TimeOfCalls(bare);

@@ -4,19 +4,18 @@
 #include "bench/page/Measurements.h"
 
 namespace bench {
-namespace {
 
-int s_rowsDrawn;
-WNDPROC s_pageProcedure;
+static int rowsDrawn;
+static WNDPROC pageProcedure;
 
-LRESULT CALLBACK CountRows(HWND page, UINT message, WPARAM wParam, LPARAM lParam)
+static LRESULT CALLBACK CountRows(HWND page, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    s_rowsDrawn += message == WM_DRAWITEM ? 1 : 0;
-    return CallWindowProcW(s_pageProcedure, page, message, wParam, lParam);
+    rowsDrawn += message == WM_DRAWITEM ? 1 : 0;
+    return CallWindowProcW(pageProcedure, page, message, wParam, lParam);
 }
 
 // A null rectangle means all of the list.
-double Paint(HWND list, const RECT* rect)
+static double Paint(HWND list, const RECT* rect)
 {
     const Stopwatch watch;
     InvalidateRect(list, rect, FALSE);
@@ -24,17 +23,15 @@ double Paint(HWND list, const RECT* rect)
     return watch.Milliseconds();
 }
 
-int RowsDrawn(HWND page, HWND list, const RECT* rect)
+static int RowsDrawn(HWND page, HWND list, const RECT* rect)
 {
-    s_pageProcedure = reinterpret_cast<WNDPROC>(
+    pageProcedure = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(page, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountRows)));
-    s_rowsDrawn = 0;
+    rowsDrawn = 0;
     Paint(list, rect);
-    SetWindowLongPtrW(page, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_pageProcedure));
-    return s_rowsDrawn;
+    SetWindowLongPtrW(page, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(pageProcedure));
+    return rowsDrawn;
 }
-
-} // namespace
 
 void MeasureRepaint(BenchApp& app)
 {
@@ -53,11 +50,11 @@ void MeasureRepaint(BenchApp& app)
 
     Pairs pairs;
     const Stopwatch whole;
-    while (whole.Milliseconds() < RowMs / 2) {
+    while (whole.Milliseconds() < rowMs / 2) {
         const double one = Paint(list, &row);
         pairs.Add(one, Paint(list, nullptr));
     }
-    Row("Painting one row / the whole list", pairs, NoBudget, "%.3f ms / %.3f ms", pairs.Ones().Median(),
+    Row("Painting one row / the whole list", pairs, noBudget, "%.3f ms / %.3f ms", pairs.Ones().Median(),
         pairs.Others().Median());
 }
 

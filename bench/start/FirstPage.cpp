@@ -4,50 +4,50 @@
 #include "rig/Desktop.h"
 #include "rig/Picture.h"
 
-namespace {
-
-BOOL CALLBACK FindVisibleList(HWND window, LPARAM found)
+static BOOL CALLBACK FindVisibleList(HWND window, LPARAM found)
 {
-    if (!IsWindowVisible(window) || rig::ClassOf(window) != L"SysListView32")
+    if (!IsWindowVisible(window) || rig::ClassOf(window) != L"SysListView32") {
         return TRUE;
+    }
     *reinterpret_cast<HWND*>(found) = window;
     return FALSE;
 }
 
-HWND VisibleListOf(DWORD process)
+static HWND VisibleListOf(DWORD process)
 {
     HWND list = nullptr;
     for (HWND window : rig::TopWindows()) {
-        if (!list && rig::ProcessOf(window) == process && IsWindowVisible(window))
+        if (!list && rig::ProcessOf(window) == process && IsWindowVisible(window)) {
             EnumChildWindows(window, FindVisibleList, reinterpret_cast<LPARAM>(&list));
+        }
     }
     return list;
 }
 
 // Where the rows are.
-RECT RowArea(HWND list)
+static RECT RowArea(HWND list)
 {
     RECT area = rig::ClientRectOnScreen(list);
     const HWND header = FindWindowExW(list, nullptr, L"SysHeader32", nullptr);
-    if (header && IsWindowVisible(header))
+    if (header && IsWindowVisible(header)) {
         area.top = rig::ScreenRectOf(header).bottom;
+    }
     const RECT screen = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
     RECT visible = {};
     IntersectRect(&visible, &area, &screen);
     return visible;
 }
 
-} // namespace
-
 bool ShowsFirstPage(DWORD process)
 {
     const HWND list = VisibleListOf(process);
-    if (!list)
+    if (!list) {
         return false;
+    }
     const rig::Picture rows = rig::Picture::OfScreen(RowArea(list));
     const int pixels = rows.Width() * rows.Height();
     const int blank = rows.Count(GetSysColor(COLOR_WINDOW));
     // What is behind the list before it is painted is not of the window colour.
-    constexpr int LeastWritten = 50;
-    return blank > pixels / 3 && pixels - blank >= LeastWritten;
+    constexpr int leastWritten = 50;
+    return blank > pixels / 3 && pixels - blank >= leastWritten;
 }

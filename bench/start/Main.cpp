@@ -10,14 +10,14 @@
 
 #include <cstdio>
 
-namespace {
+static constexpr int warmUps = 2;
+static constexpr int rounds = 21;
+static constexpr double longestStart = 20000; // ms
+static constexpr DWORD settlingMs = 500;      // what a program still does after its first page
+static constexpr DWORD pauseMs = 200;         // for what is left of the one before
+static constexpr int otherWindows = 10;       // to be listed by both task managers
 
-constexpr int WarmUps = 2;
-constexpr int Rounds = 21;
-constexpr double LongestStart = 20000; // ms
-constexpr DWORD SettlingMs = 500;      // what a program still does after its first page
-constexpr DWORD PauseMs = 200;         // for what is left of the one before
-constexpr int OtherWindows = 10;       // to be listed by both task managers
+namespace {
 
 struct Start
 {
@@ -25,34 +25,40 @@ struct Start
     double privateKb = 0;
 };
 
-double PrivateKb(HANDLE process)
+} // namespace
+
+static double PrivateKb(HANDLE process)
 {
     PROCESS_MEMORY_COUNTERS memory = {};
     memory.cb = sizeof(memory);
-    if (!GetProcessMemoryInfo(process, &memory, sizeof(memory)))
+    if (!GetProcessMemoryInfo(process, &memory, sizeof(memory))) {
         return 0;
+    }
     return static_cast<double>(memory.PagefileUsage) / 1024;
 }
 
-Start Measure(const std::wstring& executable)
+static Start Measure(const std::wstring& executable)
 {
-    Sleep(PauseMs);
+    Sleep(pauseMs);
     Start start;
     const bench::Stopwatch watch;
     const rig::ChildProcess process(executable, L"", L"C:\\");
-    while (process.Running() && watch.Milliseconds() < LongestStart) {
+    while (process.Running() && watch.Milliseconds() < longestStart) {
         if (ShowsFirstPage(process.Id())) {
             start.milliseconds = watch.Milliseconds();
             break;
         }
         Sleep(1);
     }
-    if (start.milliseconds == 0)
+    if (start.milliseconds == 0) {
         std::fprintf(stderr, "bench_start: %ls showed no page\n", executable.c_str());
-    Sleep(SettlingMs);
+    }
+    Sleep(settlingMs);
     start.privateKb = PrivateKb(process.Handle());
     return start; // the process ends here, unasked, so that it saves nothing for its next start
 }
+
+namespace {
 
 struct Figures
 {
@@ -61,17 +67,19 @@ struct Figures
     bench::Pairs memory; // Quorvane and the other task manager
 };
 
+} // namespace
+
 // False when one of them did not show its page.
-bool MeasureAll(Figures& figures)
+static bool MeasureAll(Figures& figures)
 {
-    for (int round = 0; round < WarmUps + Rounds; round++) {
+    for (int round = 0; round < warmUps + rounds; round++) {
         const Start bare = Measure(rig::ProgramFolder() + L"\\bench_window.exe");
         const Start ours = Measure(rig::ProgramFolder() + L"\\Quorvane.exe");
         const Start theirs = Measure(L"C:\\windows\\system32\\taskmgr.exe");
         if (ours.milliseconds == 0 || theirs.milliseconds == 0 || bare.milliseconds == 0) {
             return false;
         }
-        if (round < WarmUps) {
+        if (round < warmUps) {
             continue;
         }
         figures.ours.Add(ours.milliseconds, bare.milliseconds);
@@ -81,19 +89,18 @@ bool MeasureAll(Figures& figures)
     return true;
 }
 
-bool OpenWindows(const rig::Actor& actor)
+static bool OpenWindows(const rig::Actor& actor)
 {
     rig::ActorWindowSpec spec;
     spec.place = {0, 2000, 10, 2010}; // below the screen, where they hide nothing
-    for (int i = 0; i < OtherWindows; i++) {
+    for (int i = 0; i < otherWindows; i++) {
         spec.title = L"Application " + std::to_wstring(i + 1);
-        if (!actor.Make(spec))
+        if (!actor.Make(spec)) {
             return false;
+        }
     }
     return true;
 }
-
-} // namespace
 
 int wmain()
 {
@@ -104,14 +111,15 @@ int wmain()
         return 1;
     }
     Figures figures;
-    if (!MeasureAll(figures))
+    if (!MeasureAll(figures)) {
         return 1;
+    }
     bench::Row("Start to the first page / a bare window", figures.ours, 1.60,
                "%.0f ms / %.0f ms, %u starts of each", figures.ours.Ones().Median(),
                figures.ours.Others().Median(), static_cast<unsigned>(figures.ours.Ratios().Count()));
-    bench::Row("The same of taskmgr / a bare window", figures.theirs, bench::NoBudget, "%.0f ms / %.0f ms",
+    bench::Row("The same of taskmgr / a bare window", figures.theirs, bench::noBudget, "%.0f ms / %.0f ms",
                figures.theirs.Ones().Median(), figures.theirs.Others().Median());
-    bench::Row("Private memory / taskmgr", figures.memory, bench::NoBudget, "%.0f KB / %.0f KB",
+    bench::Row("Private memory / taskmgr", figures.memory, bench::noBudget, "%.0f KB / %.0f KB",
                figures.memory.Ones().Median(), figures.memory.Others().Median());
     return 0;
 }

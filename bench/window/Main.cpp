@@ -34,7 +34,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int)
     UpdateWindow(window);
 
     MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         DispatchMessageW(&message);
+    }
     return 0;
 }

@@ -10,6 +10,7 @@ enum BufferDisposalFlag
     BufferDisposalFlagUnmapView = 2
 };
 
+// The platform's names. NOLINTBEGIN(readability-identifier-naming)
 struct ImageInfo
 {
     GUID RawDataFormat;
@@ -22,6 +23,7 @@ struct ImageInfo
     double Ydpi;
     UINT Flags;
 };
+// NOLINTEND(readability-identifier-naming)
 
 // COM interfaces are released, never deleted.
 #pragma GCC diagnostic push

@@ -42,6 +42,7 @@ struct PROCESSENTRY32
     DWORD th32AccessKey;
 };
 
+// The platform's names. NOLINTBEGIN(readability-identifier-naming)
 struct MODULEENTRY32
 {
     DWORD dwSize;
@@ -56,6 +57,7 @@ struct MODULEENTRY32
     wchar_t szExePath[MAX_PATH];
     DWORD dwFlags;
 };
+// NOLINTEND(readability-identifier-naming)
 
 extern "C" {
 // INVALID_HANDLE_VALUE on failure.

@@ -2,13 +2,10 @@
 #include "rig/actor/ActorWindow.h"
 
 namespace actor {
-namespace {
 
-const UINT CloseCount = RegisterWindowMessageW(CloseCountMessage);
-const UINT KeyCount = RegisterWindowMessageW(KeyCountMessage);
-const UINT MoveCount = RegisterWindowMessageW(MoveCountMessage);
-
-} // namespace
+static const UINT closeCount = RegisterWindowMessageW(closeCountMessage);
+static const UINT keyCount = RegisterWindowMessageW(keyCountMessage);
+static const UINT moveCount = RegisterWindowMessageW(moveCountMessage);
 
 HWND ActorWindow::Make(const WindowOrder& order)
 {
@@ -19,8 +16,9 @@ HWND ActorWindow::Make(const WindowOrder& order)
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     windowClass.lpszClassName = order.className;
     // Several windows may have the same class.
-    if (!RegisterClassW(&windowClass) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
+    if (!RegisterClassW(&windowClass) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS) {
         return nullptr;
+    }
 
     // Shown only when it is complete, so that a test never finds half a window.
     auto* self = new ActorWindow(order);
@@ -43,12 +41,14 @@ LRESULT CALLBACK ActorWindow::Procedure(HWND window, UINT message, WPARAM wParam
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
     }
     auto* self = reinterpret_cast<ActorWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (!self)
+    if (!self) {
         return DefWindowProcW(window, message, wParam, lParam);
+    }
     if (message == WM_NCDESTROY) {
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-        if (self->order.endsActor)
+        if (self->order.endsActor) {
             PostQuitMessage(0);
+        }
         delete self;
         return DefWindowProcW(window, message, wParam, lParam);
     }
@@ -57,12 +57,15 @@ LRESULT CALLBACK ActorWindow::Procedure(HWND window, UINT message, WPARAM wParam
 
 LRESULT ActorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message == CloseCount)
+    if (message == closeCount) {
         return closes;
-    if (message == KeyCount)
+    }
+    if (message == keyCount) {
         return keys;
-    if (message == MoveCount)
+    }
+    if (message == moveCount) {
         return moves;
+    }
     switch (message) {
     case WM_CLOSE:
         OnClose();
@@ -90,8 +93,9 @@ void ActorWindow::OnClose()
         Sleep(order.delay);
         break;
     case Closing::Ask:
-        if (MessageBoxW(window, L"Close this window?", order.title, MB_YESNO) != IDYES)
+        if (MessageBoxW(window, L"Close this window?", order.title, MB_YESNO) != IDYES) {
             return;
+        }
         break;
     case Closing::Close:
         break;

@@ -1,25 +1,25 @@
 // actor.exe: a program whose windows look and behave as a test orders.
 #include "rig/actor/ActorWindow.h"
 
-namespace {
-
-LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+static LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message != WM_COPYDATA)
+    if (message != WM_COPYDATA) {
         return DefWindowProcW(window, message, wParam, lParam);
+    }
 
     const auto* data = reinterpret_cast<const COPYDATASTRUCT*>(lParam);
-    if (data->dwData == actor::MakeWindow && data->cbData == sizeof(actor::WindowOrder))
+    if (data->dwData == actor::MakeWindow && data->cbData == sizeof(actor::WindowOrder)) {
         return reinterpret_cast<LRESULT>(
             actor::ActorWindow::Make(*static_cast<actor::WindowOrder*>(data->lpData)));
-    if (data->dwData == actor::VanishWindow && data->cbData == sizeof(HWND))
+    }
+    if (data->dwData == actor::VanishWindow && data->cbData == sizeof(HWND)) {
         return DestroyWindow(*static_cast<HWND*>(data->lpData));
-    if (data->dwData == actor::FocusWindow && data->cbData == sizeof(HWND))
+    }
+    if (data->dwData == actor::FocusWindow && data->cbData == sizeof(HWND)) {
         return SetFocus(*static_cast<HWND*>(data->lpData)) != nullptr;
+    }
     return FALSE;
 }
-
-} // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int)
 {
@@ -27,13 +27,14 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int)
     WNDCLASSW control = {};
     control.lpfnWndProc = ControlProc;
     control.hInstance = instance;
-    control.lpszClassName = actor::ControlClass;
+    control.lpszClassName = actor::controlClass;
     RegisterClassW(&control);
     wchar_t title[16];
     wsprintfW(title, L"%u", GetCurrentProcessId());
-    if (!CreateWindowExW(0, actor::ControlClass, title, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, instance,
-                         nullptr))
+    if (!CreateWindowExW(0, actor::controlClass, title, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, instance,
+                         nullptr)) {
         return 1;
+    }
 
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {

@@ -7,7 +7,7 @@
 namespace actor {
 
 // The control window is a message-only window of this class whose title is the process id in decimal.
-inline constexpr wchar_t ControlClass[] = L"QvActorControl";
+inline constexpr wchar_t controlClass[] = L"QvActorControl";
 
 // dwData of WM_COPYDATA.
 enum Order : ULONG_PTR
@@ -41,8 +41,8 @@ struct WindowOrder
 };
 
 // Answered by the actor's windows; registered by RegisterWindowMessageW.
-inline constexpr wchar_t CloseCountMessage[] = L"QvActorCloseCount"; // the number of WM_CLOSE received so far
-inline constexpr wchar_t MoveCountMessage[] = L"QvActorMoveCount";   // the number of WM_MOUSEMOVE
-inline constexpr wchar_t KeyCountMessage[] = L"QvActorKeyCount"; // the number of WM_KEYDOWN received so far
+inline constexpr wchar_t closeCountMessage[] = L"QvActorCloseCount"; // the number of WM_CLOSE received so far
+inline constexpr wchar_t moveCountMessage[] = L"QvActorMoveCount";   // the number of WM_MOUSEMOVE
+inline constexpr wchar_t keyCountMessage[] = L"QvActorKeyCount"; // the number of WM_KEYDOWN received so far
 
 } // namespace actor

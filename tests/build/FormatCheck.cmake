@@ -1,4 +1,4 @@
-# Every source file must be as clang-format would write it.
+# Every source file must be as clang-format would write it, and pass the script, which relies on that form.
 set(patterns "")
 foreach(folder IN LISTS FOLDERS)
     list(APPEND patterns ${ROOT}/${folder}/*.cpp ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.c)
@@ -9,6 +9,10 @@ if(count LESS 50)
     message(FATAL_ERROR "only ${count} source files were found")
 endif()
 execute_process(COMMAND ${CLANG_FORMAT} --dry-run --Werror ${sources} RESULT_VARIABLE result ERROR_VARIABLE messages)
+if(NOT result EQUAL 0)
+    message(FATAL_ERROR "${messages}")
+endif()
+execute_process(COMMAND awk -f ${SCRIPT} ${sources} RESULT_VARIABLE result OUTPUT_VARIABLE messages ERROR_VARIABLE messages)
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "${messages}")
 endif()

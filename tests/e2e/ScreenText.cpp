@@ -5,13 +5,11 @@
 
 using rig::Picture;
 
-namespace {
+static constexpr int widthAt96 = 240;
+static constexpr int points = 9;
+static constexpr UINT rowText = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
 
-constexpr int WidthAt96 = 240;
-constexpr int Points = 9;
-constexpr UINT RowText = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
-
-bool HasFace(const wchar_t* face)
+static bool HasFace(const wchar_t* face)
 {
     LOGFONTW wanted = {};
     wanted.lfCharSet = DEFAULT_CHARSET;
@@ -29,7 +27,7 @@ bool HasFace(const wchar_t* face)
 
 // Calls with the font in a device context of the screen's kind.
 template <class Use>
-auto WithFont(HFONT font, Use use)
+static auto WithFont(HFONT font, Use use)
 {
     const HDC context = CreateCompatibleDC(nullptr);
     const HGDIOBJ before = SelectObject(context, font);
@@ -39,18 +37,16 @@ auto WithFont(HFONT font, Use use)
     return result;
 }
 
-} // namespace
-
 int OnScreen(int pixels)
 {
-    const int dpi = 96 * GetSystemMetrics(SM_CXSCREEN) / WidthAt96;
+    const int dpi = 96 * GetSystemMetrics(SM_CXSCREEN) / widthAt96;
     return (pixels * dpi + 48) / 96;
 }
 
 ScreenFont::ScreenFont(LONG weight, LONG extraHeight)
 {
     LOGFONTW description = {};
-    description.lfHeight = -OnScreen(Points * 96 / 72) + extraHeight;
+    description.lfHeight = -OnScreen(points * 96 / 72) + extraHeight;
     description.lfWeight = weight;
     description.lfCharSet = DEFAULT_CHARSET;
     description.lfQuality = CLEARTYPE_QUALITY;
@@ -113,8 +109,9 @@ bool RowShowsName(HWND list, int row, const std::wstring& name, std::chrono::mil
     return rig::WaitFor(
         [&] {
             const auto bounds = rig::ListRowOnScreen(list, row);
-            if (!bounds)
+            if (!bounds) {
                 return false;
+            }
             const bool selected = rig::ListMark(list) == row;
             const int left = bounds->left + OnScreen(8) + OnScreen(16);
             // A separator line is below each row, and the heap figure to the right of the name.
@@ -123,7 +120,7 @@ bool RowShowsName(HWND list, int row, const std::wstring& name, std::chrono::mil
             const Picture expected =
                 bold.Draw(size, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW),
                           GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT), name,
-                          {0, 0, size.cx + OnScreen(100), bounds->bottom - bounds->top}, RowText);
+                          {0, 0, size.cx + OnScreen(100), bounds->bottom - bounds->top}, rowText);
             return Picture::OfScreen({left, bounds->top, left + size.cx, bounds->top + size.cy}) == expected;
         },
         timeout);
@@ -145,14 +142,16 @@ bool NoticeSays(HWND mainWindow, HWND notice, const std::wstring& text)
     return rig::WaitFor(
         [&] {
             const RECT place = rig::ScreenRectOf(notice);
-            if (place.right - place.left != size.cx || place.bottom - place.top != size.cy)
+            if (place.right - place.left != size.cx || place.bottom - place.top != size.cy) {
                 return false;
+            }
             const Picture shown = Picture::OfScreen(place);
             // Within the frame.
             for (int y = 1; y < size.cy - 1; y++) {
                 for (int x = 1; x < size.cx - 1; x++) {
-                    if (shown.At(x, y) != whole.At(x, y))
+                    if (shown.At(x, y) != whole.At(x, y)) {
                         return false;
+                    }
                 }
             }
             return true;

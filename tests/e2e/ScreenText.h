@@ -34,7 +34,7 @@ class ScreenFont
 
 // Waits until the row of a list has this name, beginning where names do; the rest of the row does not matter.
 bool RowShowsName(HWND list, int row, const std::wstring& name,
-                  std::chrono::milliseconds timeout = rig::Patience);
+                  std::chrono::milliseconds timeout = rig::patience);
 
 // Waits until the timed notice is shown with this text.
 bool NoticeSays(HWND mainWindow, HWND notice, const std::wstring& text);

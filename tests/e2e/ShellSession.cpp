@@ -53,7 +53,7 @@ void ShellSession::ExpectKeysReachThePage(int page) const
 
 void ShellSession::ExpectEnd(DWORD code) const
 {
-    const std::optional<DWORD> ended = program->ExitCode(Patience);
+    const std::optional<DWORD> ended = program->ExitCode(patience);
     ASSERT_TRUE(ended) << "the program does not end";
     EXPECT_EQ(code, *ended);
 }
@@ -150,8 +150,9 @@ std::wstring BoxText(HWND box)
 {
     for (HWND child = nullptr; (child = FindWindowExW(box, child, L"Static", nullptr)) != nullptr;) {
         const std::wstring text = TextOf(child);
-        if (!text.empty())
+        if (!text.empty()) {
             return text;
+        }
     }
     return {};
 }
@@ -159,7 +160,8 @@ std::wstring BoxText(HWND box)
 int PageAfter(int page, int steps)
 {
     int place = 0;
-    while (PageRing[place] != page)
+    while (pageRing[place] != page) {
         place++;
-    return PageRing[(place + steps + 4) % 4];
+    }
+    return pageRing[(place + steps + 4) % 4];
 }

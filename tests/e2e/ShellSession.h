@@ -20,7 +20,7 @@ enum PageNumber : int
 };
 
 // The pages in the order of the arrows, to the right.
-inline constexpr int PageRing[] = {TasksPage, LauncherPage, SysInfoPage, ProcsPage};
+inline constexpr int pageRing[] = {TasksPage, LauncherPage, SysInfoPage, ProcsPage};
 
 enum Command : int
 {

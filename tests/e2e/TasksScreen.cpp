@@ -11,22 +11,20 @@ using namespace rig;
 std::optional<Program> TasksScreen::program;
 DWORD TasksScreen::startedAt;
 
-namespace {
+static constexpr DWORD afterLateStarters =
+    1500; // ms: the first showing is followed by a refresh a second later
+static constexpr wchar_t handleLabel[] = L"\r\nWindow handle: 0x";
 
-constexpr DWORD AfterLateStarters = 1500; // ms: the first showing is followed by a refresh a second later
-constexpr wchar_t HandleLabel[] = L"\r\nWindow handle: 0x";
-
-bool AreInOrder(const std::vector<HWND>& wanted)
+static bool AreInOrder(const std::vector<HWND>& wanted)
 {
     auto next = wanted.begin();
     for (HWND window : TopWindows()) {
-        if (next != wanted.end() && window == *next)
+        if (next != wanted.end() && window == *next) {
             ++next;
+        }
     }
     return next == wanted.end();
 }
-
-} // namespace
 
 rig::ActorWindowSpec Task(const std::wstring& title)
 {
@@ -53,7 +51,7 @@ void TasksScreen::SetUp()
         ASSERT_NO_FATAL_FAILURE(Start());
     }
     HideNotice();
-    Send(Main(), WM_COMMAND, CommandShowTasks);
+    Send(Main(), WM_COMMAND, commandShowTasks);
     ASSERT_TRUE(program->WaitForPage(1));
     list = program->List(1);
     ASSERT_TRUE(list);
@@ -63,15 +61,18 @@ void TasksScreen::SetUp()
 void TasksScreen::TearDown()
 {
     // What a failed test leaves open would fail the next one too.
-    if (HasFailure())
+    if (HasFailure()) {
         program.reset();
+    }
 }
 
 HWND TasksScreen::Today()
 {
     for (HWND window : TopWindows()) {
-        if (ClassOf(window) == L"DesktopExplorerWindow" && ExecutableOf(ProcessOf(window)) == L"handheld.exe")
+        if (ClassOf(window) == L"DesktopExplorerWindow" &&
+            ExecutableOf(ProcessOf(window)) == L"handheld.exe") {
             return window;
+        }
     }
     return nullptr;
 }
@@ -79,7 +80,7 @@ HWND TasksScreen::Today()
 void TasksScreen::Front() const
 {
     ASSERT_TRUE(Raise(Main()));
-    Do(CommandRefresh);
+    Do(commandRefresh);
 }
 
 void TasksScreen::FrontBefore(const std::vector<HWND>& windows) const
@@ -94,12 +95,12 @@ void TasksScreen::FrontBefore(const std::vector<HWND>& windows) const
         }
         return AreInOrder(wanted);
     }));
-    Do(CommandRefresh);
+    Do(commandRefresh);
 }
 
 void TasksScreen::FrontWithoutRefreshes() const
 {
-    WaitFor([] { return GetTickCount() - startedAt > AfterLateStarters; });
+    WaitFor([] { return GetTickCount() - startedAt > afterLateStarters; });
     if (GetForegroundWindow() == Main()) {
         ASSERT_TRUE(Raise(Today()));
     }
@@ -122,7 +123,7 @@ void TasksScreen::Select(int row) const
 
 std::wstring TasksScreen::Report() const
 {
-    program->Command(CommandInfo);
+    program->Command(commandInfo);
     const HWND dialog = program->WaitForDialog();
     const HWND edit = FindDescendant(dialog, L"Edit", 126);
     WaitFor([&] { return !TextOf(edit).empty(); });
@@ -133,10 +134,11 @@ std::wstring TasksScreen::Report() const
 
 HWND TasksScreen::ReportedWindow(const std::wstring& report)
 {
-    const size_t label = report.find(HandleLabel);
-    if (label == std::wstring::npos)
+    const size_t label = report.find(handleLabel);
+    if (label == std::wstring::npos) {
         return nullptr;
-    const size_t digits = label + wcslen(HandleLabel);
+    }
+    const size_t digits = label + wcslen(handleLabel);
     return reinterpret_cast<HWND>(static_cast<ULONG_PTR>(wcstoul(report.c_str() + digits, nullptr, 16)));
 }
 
@@ -154,8 +156,9 @@ void TasksScreen::SelectTask(HWND window) const
 {
     for (int row = 0; row < ListCount(list); row++) {
         Select(row);
-        if (SelectedTask() == window)
+        if (SelectedTask() == window) {
             return;
+        }
     }
     FAIL() << "no row of that window";
 }
@@ -179,6 +182,7 @@ HWND TasksScreen::WaitForNotice()
 
 void TasksScreen::HideNotice()
 {
-    if (const HWND notice = program->Notice())
+    if (const HWND notice = program->Notice()) {
         Send(notice, WM_LBUTTONDOWN);
+    }
 }

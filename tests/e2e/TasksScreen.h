@@ -9,16 +9,16 @@
 
 #include <optional>
 
-inline constexpr int CommandPreviousPage = 32774;
-inline constexpr int CommandNextPage = 32775;
-inline constexpr int CommandWindowsList = 32792;
-inline constexpr int CommandRefresh = 32793;
-inline constexpr int CommandShowTasks = 32796;
-inline constexpr int CommandInfo = 32799;
-inline constexpr int CommandClose = 32800;
-inline constexpr int CommandSwitch = 32801;
-inline constexpr int CommandWindowInfo = 0x8022;
-inline constexpr int CommandCloseAll = 32816;
+inline constexpr int commandPreviousPage = 32774;
+inline constexpr int commandNextPage = 32775;
+inline constexpr int commandWindowsList = 32792;
+inline constexpr int commandRefresh = 32793;
+inline constexpr int commandShowTasks = 32796;
+inline constexpr int commandInfo = 32799;
+inline constexpr int commandClose = 32800;
+inline constexpr int commandSwitch = 32801;
+inline constexpr int commandWindowInfo = 0x8022;
+inline constexpr int commandCloseAll = 32816;
 
 class TasksScreen : public testing::Test
 {

@@ -23,13 +23,15 @@ bool FatalReport::MatchAndExplain(const std::string& output, std::ostream* liste
 {
     std::string text;
     for (const char c : output) {
-        if (c != '\r')
+        if (c != '\r') {
             text += c;
+        }
     }
     const size_t start = text.find(head);
     if (start == std::string::npos || text.find("Fatal error", start + 1) != std::string::npos) {
-        if (listener)
+        if (listener) {
             *listener << "there is not exactly one box that begins so";
+        }
         return false;
     }
     const char* const number = text.c_str() + start + head.size();

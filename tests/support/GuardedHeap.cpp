@@ -42,14 +42,16 @@ static size_t RoundUp(size_t value, size_t unit)
 
 void* GuardedAllocate(size_t size)
 {
-    if (size > SIZE_MAX / 2)
+    if (size > SIZE_MAX / 2) {
         return nullptr;
+    }
     const size_t aligned = RoundUp(size ? size : 1, alignment);
     const size_t used = RoundUp(sizeof(RegionHeader) + aligned, pageSize);
     auto* const region =
         static_cast<uint8_t*>(VirtualAlloc(nullptr, used + pageSize, MEM_RESERVE, PAGE_NOACCESS));
-    if (!region)
+    if (!region) {
         return nullptr;
+    }
     if (!VirtualAlloc(region, used, MEM_COMMIT, PAGE_READWRITE)) {
         VirtualFree(region, 0, MEM_RELEASE);
         return nullptr;
@@ -87,8 +89,9 @@ void GuardedFree(void* block)
     const uint8_t* const end = header->block + header->size;
     const size_t slack = RoundUp(header->size ? header->size : 1, alignment) - header->size;
     for (size_t i = 0; i < slack; i++) {
-        if (end[i] != slackByte)
+        if (end[i] != slackByte) {
             Die("written behind its end:", block);
+        }
     }
     VirtualFree(header, RoundUp(sizeof(RegionHeader) + header->size, pageSize), MEM_DECOMMIT);
 
@@ -97,6 +100,7 @@ void GuardedFree(void* block)
     quarantine[quarantineNext] = header;
     quarantineNext = (quarantineNext + 1) % quarantineSize;
     ReleaseSRWLockExclusive(&quarantineLock);
-    if (oldest)
+    if (oldest) {
         VirtualFree(oldest, 0, MEM_RELEASE);
+    }
 }

@@ -61,8 +61,9 @@ void ImportHook::Take(void** slot)
 void ImportHook::RequireFound(const char* what) const
 {
     if (slotCount) {
-        for (size_t i = 0; i < slotCount; i++)
+        for (size_t i = 0; i < slotCount; i++) {
             Write(slots[i], replacement);
+        }
         return;
     }
     fprintf(stderr, "ImportHook: %s is not imported\n", what);
@@ -88,14 +89,16 @@ void ImportHook::HookOrdinal(const char* library, uint16_t ordinal)
 {
     LoadedFile(importer).ForEachImport([&](const char* from, const IMAGE_THUNK_DATA& lookup, void** slot) {
         if (IMAGE_SNAP_BY_ORDINAL(lookup.u1.Ordinal) && IMAGE_ORDINAL(lookup.u1.Ordinal) == ordinal &&
-            _stricmp(from, library) == 0)
+            _stricmp(from, library) == 0) {
             Take(slot);
+        }
     });
     RequireFound(library);
 }
 
 ImportHook::~ImportHook()
 {
-    for (size_t i = 0; i < slotCount; i++)
+    for (size_t i = 0; i < slotCount; i++) {
         Write(slots[i], original);
+    }
 }

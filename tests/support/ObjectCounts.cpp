@@ -30,8 +30,9 @@ static void CountGdiObjects(std::array<int, 256>& counts)
     const auto* peb = reinterpret_cast<const uint8_t*(WINAPI*)()>(reinterpret_cast<void*>(ownPeb))();
     const auto* table = *reinterpret_cast<const GdiEntry* const*>(peb + gdiTableInPeb);
     for (size_t i = 0; table && i < gdiEntryCount; i++) {
-        if (table[i].type != 0)
+        if (table[i].type != 0) {
             counts[table[i].type]++;
+        }
     }
 }
 
@@ -80,8 +81,9 @@ static size_t CountHeapBlocks()
     for (DWORD i = 0; i < count && i < 64; i++) {
         HeapLock(heaps[i]);
         PROCESS_HEAP_ENTRY entry = {};
-        while (HeapWalk(heaps[i], &entry))
+        while (HeapWalk(heaps[i], &entry)) {
             blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+        }
         HeapUnlock(heaps[i]);
     }
     return blocks;
@@ -111,7 +113,8 @@ void PrintTo(const ObjectCounts& counts, std::ostream* out)
          << " accelerator tables, " << counts.programBlocks << " + " << counts.heapBlocks
          << " blocks; GDI objects by type:";
     for (size_t type = 0; type < counts.gdiObjects.size(); type++) {
-        if (counts.gdiObjects[type] != 0)
+        if (counts.gdiObjects[type] != 0) {
             *out << ' ' << std::hex << type << std::dec << ':' << counts.gdiObjects[type];
+        }
     }
 }

@@ -26,8 +26,9 @@ static void RemoveTree(const std::wstring& folder)
             if (!(data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)) {
                 SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
                 DeleteFileW(path.c_str());
-            } else if (name != L"." && name != L"..")
+            } else if (name != L"." && name != L"..") {
                 RemoveTree(path);
+            }
         } while (FindNextFileW(search, &data));
         FindClose(search);
     }
@@ -45,8 +46,9 @@ static void Remove()
 void BeginScratch()
 {
     isChild = !ProgramId().empty();
-    if (isChild)
+    if (isChild) {
         return;
+    }
     SetEnvironmentVariableW(variable, std::to_wstring(GetCurrentProcessId()).c_str());
     Remove(); // of a program with the same process id that crashed
     CreateDirectoryW(ScratchFolder().c_str(), nullptr);
@@ -54,8 +56,9 @@ void BeginScratch()
 
 void EndScratch()
 {
-    if (!isChild)
+    if (!isChild) {
         Remove();
+    }
 }
 
 std::wstring ScratchFolder()

@@ -39,15 +39,17 @@ static void* Allocate(size_t size)
         refused = true;
         return nullptr;
     }
-    if (successesLeft != INT64_MAX)
+    if (successesLeft != INT64_MAX) {
         successesLeft--;
+    }
 #ifdef QV_CHECKED
     void* const block = GuardedAllocate(size);
 #else
     void* const block = malloc(size ? size : 1);
 #endif
-    if (block)
+    if (block) {
         liveBlocks++;
+    }
     return block;
 }
 
@@ -62,8 +64,9 @@ size_t BlockSize(void* block)
 
 static void Free(void* block)
 {
-    if (!block)
+    if (!block) {
         return;
+    }
     liveBlocks--;
 #ifdef QV_CHECKED
     GuardedFree(block);

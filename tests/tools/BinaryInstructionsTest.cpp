@@ -90,8 +90,9 @@ TEST(BinaryInstructionsTest, NumbersOfMoreThanOneByte)
     EXPECT_EQ(Bytes(written.binary.begin() + 32, written.binary.begin() + 40), newest);
 
     std::vector<std::string> lines = GoodDescription();
-    for (int i = 2; i <= 300; i++)
+    for (int i = 2; i <= 300; i++) {
         lines.push_back("file = " + std::to_string(i));
+    }
     const Instructions many = WriteInstructions(Joined(lines));
     const Bytes count = {300 - 256, 1};
     EXPECT_EQ(Bytes(many.binary.begin() + 52, many.binary.begin() + 54), count);

@@ -52,8 +52,9 @@ TEST(BmpRefusalTest, BytesThatTheHeaderDoesNotCount)
 
 TEST(BmpRefusalTest, HeadersOfUnknownLength)
 {
-    for (const std::uint32_t size : {0u, 12u, 39u, 41u, 64u, 0xffffffffu})
+    for (const std::uint32_t size : {0u, 12u, 39u, 41u, 64u, 0xffffffffu}) {
         ExpectRefused(WithU32(14, size), "BMP header of unknown length " + std::to_string(size));
+    }
     // A known length that reaches past the end.
     ExpectRefused(WithU32(14, 124), "headers are not complete");
 }
@@ -82,10 +83,12 @@ TEST(BmpRefusalTest, UnknownPixelFormats)
 {
     ExpectRefused(WithU16(26, 0), "plane count");
     ExpectRefused(WithU16(26, 2), "plane count");
-    for (const std::uint32_t bits : {0u, 2u, 12u, 48u, 65535u})
+    for (const std::uint32_t bits : {0u, 2u, 12u, 48u, 65535u}) {
         ExpectRefused(WithU16(28, bits), "colour depth of " + std::to_string(bits) + " bits");
-    for (const std::uint32_t compression : {1u, 2u, 3u, 4u, 5u, 0xffffffffu})
+    }
+    for (const std::uint32_t compression : {1u, 2u, 3u, 4u, 5u, 0xffffffffu}) {
         ExpectRefused(WithU32(30, compression), "compressed or unknown BMP pixel format");
+    }
 }
 
 TEST(BmpRefusalTest, PixelsOutsideTheirPlace)

@@ -40,8 +40,9 @@ TEST_F(BuiltContainerTest, HoldsTheSixteenIdsInOrderAndNothingElse)
 {
     ASSERT_EQ(Bytes(file.begin(), file.begin() + 7), (Bytes{'Q', 'V', '_', 'Z', 'R', 'S', 0}));
     EXPECT_EQ(WordAt(file, 7), 1u);
-    for (const std::size_t offset : {11u, 15u, 19u})
+    for (const std::size_t offset : {11u, 15u, 19u}) {
         EXPECT_EQ(WordAt(file, offset), 0u);
+    }
     ASSERT_EQ(WordAt(file, 23), 16u);
     std::size_t next = 27 + 16 * 20;
     for (std::size_t i = 0; i < 16; i++) {
@@ -104,8 +105,9 @@ TEST_F(BuiltContainerTest, SilhouettesEndInTheDarkOutline)
 TEST_F(BuiltContainerTest, TheEightPicturesDiffer)
 {
     std::set<Bytes> pictures;
-    for (std::size_t id = 0; id < 16; id += 2)
+    for (std::size_t id = 0; id < 16; id += 2) {
         pictures.insert(Entry(id));
+    }
     EXPECT_EQ(pictures.size(), 8u);
 }
 

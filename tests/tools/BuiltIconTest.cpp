@@ -51,8 +51,9 @@ TEST(BuiltIconTest, CornersAreClearAndTheMiddleIsOpaqueInEveryMask)
             return (file.at(mask + row * y + x / 8) >> (7 - x % 8) & 1) != 0;
         };
         for (const std::size_t x : {std::size_t{0}, size - 1}) {
-            for (const std::size_t y : {std::size_t{0}, size - 1})
+            for (const std::size_t y : {std::size_t{0}, size - 1}) {
                 EXPECT_TRUE(isClear(x, y)) << x << "," << y;
+            }
         }
         EXPECT_FALSE(isClear(size / 2, size / 2));
     }

@@ -13,8 +13,9 @@ std::string DescriptionWith(const std::string& key, const std::string& replaceme
 {
     std::vector<std::string> lines = GoodDescription();
     for (std::string& line : lines) {
-        if (line.starts_with(key + " ="))
+        if (line.starts_with(key + " =")) {
             line = replacement;
+        }
     }
     return Joined(lines);
 }
@@ -22,8 +23,9 @@ std::string DescriptionWith(const std::string& key, const std::string& replaceme
 std::string Joined(const std::vector<std::string>& lines)
 {
     std::string text;
-    for (const std::string& line : lines)
+    for (const std::string& line : lines) {
         text += line + "\n";
+    }
     return text;
 }
 
@@ -38,10 +40,12 @@ Instructions WriteInstructions(const std::string& description)
     const TempFolder output;
     const std::string file = folder.Put("description", Bytes(description.begin(), description.end()));
     const ProgramResult result = RunCabheader({file, output.Path("")});
-    if (result.exitCode != 0 || !result.output.empty() || !result.errors.empty())
+    if (result.exitCode != 0 || !result.output.empty() || !result.errors.empty()) {
         throw std::runtime_error("cabheader failed: " + result.errors);
-    if (output.Names() != std::vector<std::string>{"TEST.000", "_setup.xml"})
+    }
+    if (output.Names() != std::vector<std::string>{"TEST.000", "_setup.xml"}) {
         throw std::runtime_error("cabheader wrote other files");
+    }
     const Bytes xml = ReadAll(output.Path("_setup.xml"));
     return {ReadAll(output.Path("TEST.000")), std::string(xml.begin(), xml.end())};
 }

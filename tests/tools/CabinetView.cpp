@@ -3,36 +3,36 @@
 
 #include <stdexcept>
 
-namespace {
-
-void Check(bool good, const std::string& problem)
+static void Check(bool good, const std::string& problem)
 {
-    if (!good)
+    if (!good) {
         throw std::runtime_error("bad cabinet: " + problem);
+    }
 }
 
-std::uint32_t U16(const Bytes& bytes, std::size_t offset)
+static std::uint32_t U16(const Bytes& bytes, std::size_t offset)
 {
     return bytes.at(offset) | static_cast<std::uint32_t>(bytes.at(offset + 1)) << 8;
 }
 
-std::uint32_t U32(const Bytes& bytes, std::size_t offset)
+static std::uint32_t U32(const Bytes& bytes, std::size_t offset)
 {
     return U16(bytes, offset) | U16(bytes, offset + 2) << 16;
 }
 
 // The length and the place of the data reserved for a signature.
-std::size_t ReservedSize(const Bytes& cabinet)
+static std::size_t ReservedSize(const Bytes& cabinet)
 {
     const std::uint32_t flags = U16(cabinet, 30);
     Check((flags & ~4u) == 0, "one of a set");
-    if (flags == 0)
+    if (flags == 0) {
         return 0;
+    }
     Check(U16(cabinet, 38) == 0, "reserved areas in folders or blocks");
     return 4 + U16(cabinet, 36);
 }
 
-Bytes FolderContent(const Bytes& cabinet, std::size_t record)
+static Bytes FolderContent(const Bytes& cabinet, std::size_t record)
 {
     Check(U16(cabinet, record + 6) == 0, "it is compressed");
     Bytes content;
@@ -48,8 +48,6 @@ Bytes FolderContent(const Bytes& cabinet, std::size_t record)
     Check(block == U32(cabinet, 8), "its length is wrong");
     return content;
 }
-
-} // namespace
 
 std::vector<CabinetMember> ReadCabinet(const Bytes& cabinet)
 {
@@ -71,8 +69,9 @@ std::vector<CabinetMember> ReadCabinet(const Bytes& cabinet)
         Check(U16(cabinet, record + 8) == 0, "a file in another folder");
         CabinetMember member{
             "", U16(cabinet, record + 10), U16(cabinet, record + 12), U16(cabinet, record + 14), {}};
-        for (record += 16; cabinet.at(record) != 0; record++)
+        for (record += 16; cabinet.at(record) != 0; record++) {
             member.name += static_cast<char>(cabinet[record]);
+        }
         record++;
         const auto begin = content.begin() + static_cast<std::ptrdiff_t>(offset);
         member.content.assign(begin, begin + static_cast<std::ptrdiff_t>(size));
@@ -86,7 +85,8 @@ std::vector<CabinetMember> ReadCabinet(const Bytes& cabinet)
 std::vector<std::string> NamesOf(const std::vector<CabinetMember>& members)
 {
     std::vector<std::string> names;
-    for (const CabinetMember& member : members)
+    for (const CabinetMember& member : members) {
         names.push_back(member.name);
+    }
     return names;
 }

@@ -43,8 +43,9 @@ TEST(DescriptionRefusalTest, EveryKeyIsNeededAndIsGivenOnce)
         const std::string words =
             key == "folder" ? "a file needs the folder above it" : "'" + key + "' is missing";
         ExpectDescriptionRefused(DescriptionWith(key, ""), words);
-        if (key != "file")
+        if (key != "file") {
             ExpectLineRefused(line, "'" + key + "' is given twice");
+        }
     }
     ExpectDescriptionRefused("", "'provider' is missing");
 }
@@ -74,8 +75,9 @@ TEST(DescriptionRefusalTest, TextsThatNoInstallerTakes)
 TEST(DescriptionRefusalTest, Versions)
 {
     for (const char* version :
-         {"", "5", "5.", ".0", "5.0.1", "v5.0", "-5.0", "5.-1", "5.0 ce", "65536.0", "5.65536"})
+         {"", "5", "5.", ".0", "5.0.1", "v5.0", "-5.0", "5.-1", "5.0 ce", "65536.0", "5.65536"}) {
         ExpectValueRefused("oldest", version, "is not a version such as 5.0");
+    }
     ExpectValueRefused("oldest", "7.0", "the newest version is older than the oldest");
     ExpectValueRefused("newest", "4.99", "the newest version is older than the oldest");
 }
@@ -83,16 +85,18 @@ TEST(DescriptionRefusalTest, Versions)
 TEST(DescriptionRefusalTest, CabinetNames)
 {
     ExpectValueRefused("cabinet", "NINECHARS", "is longer than 8 characters");
-    for (const char* name : {"lower", "A B", "A.B", "..", "A/B", "A\\B", "A~1"})
+    for (const char* name : {"lower", "A B", "A.B", "..", "A/B", "A\\B", "A~1"}) {
         ExpectValueRefused("cabinet", name, "has characters other than A to Z, 0 to 9 and _");
+    }
 }
 
 TEST(DescriptionRefusalTest, FoldersAreBelowAStandardFolder)
 {
     for (const char* folder :
          {"", "%CE%", "%CE0%", "%CE01%", "%CE18%", "%CEx%", "%CE1", "CE1", "%ce1%", "%CE-1%",
-          R"(\Program Files)", R"(%CE1%x\One)", "%CE1%/One", "%CE99999999999999999999%"})
+          R"(\Program Files)", R"(%CE1%x\One)", "%CE1%/One", "%CE99999999999999999999%"}) {
         ExpectValueRefused("folder", folder, "is not one of %CE1% to %CE17%");
+    }
     ExpectValueRefused("folder", R"(%CE1%\)", "a text is empty");
     ExpectValueRefused("folder", R"(%CE1%\\One)", "a text is empty");
     for (const char* folder : {R"(%CE1%\ One)", R"(%CE1%\One \Two)"})
@@ -105,8 +109,9 @@ TEST(DescriptionRefusalTest, FoldersAreBelowAStandardFolder)
 TEST(DescriptionRefusalTest, FileNames)
 {
     for (const char* name :
-         {"a/b", R"(a\b)", "a:b", "a*", "a?", "a\"", "a<b", "a>b", "a|b", "%CE1%", ".", "..", "a."})
+         {"a/b", R"(a\b)", "a:b", "a*", "a?", "a\"", "a<b", "a>b", "a|b", "%CE1%", ".", "..", "a."}) {
         ExpectLineRefused(std::string("file = ") + name, "'" + std::string(name) + "' cannot be a file name");
+    }
     ExpectLineRefused("file = \xff.exe", "'\xff.exe' has characters that are not ASCII");
     ExpectLineRefused("file = " + std::string(129, 'f'),
                       "'" + std::string(129, 'f') + "' is longer than 128 characters");
@@ -143,8 +148,9 @@ TEST(DescriptionRefusalTest, Shortcuts)
 TEST(DescriptionRefusalTest, TheNumberOfASetUpLibraryIsNotUsed)
 {
     std::string description = Joined(GoodDescription());
-    for (int i = 2; i <= 998; i++)
+    for (int i = 2; i <= 998; i++) {
         description += "file = " + std::to_string(i) + "\n";
+    }
     EXPECT_NE(WriteInstructions(description).xml.find(R"("TEST.998")"), std::string::npos);
     ExpectDescriptionRefused(description + "file = 999\n", "line 1005: more than 998 files");
 }

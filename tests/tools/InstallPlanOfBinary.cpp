@@ -30,10 +30,12 @@ class Reader
     std::string Text(std::size_t length)
     {
         std::string text;
-        for (; length > 1; length--)
+        for (; length > 1; length--) {
             text += static_cast<char>(bytes.at(at++));
-        if (bytes.at(at++) != 0 || text.find('\0') != std::string::npos)
+        }
+        if (bytes.at(at++) != 0 || text.find('\0') != std::string::npos) {
             throw std::runtime_error("a text of the wrong length");
+        }
         return text;
     }
 
@@ -42,16 +44,22 @@ class Reader
 
 using Names = std::map<std::uint32_t, std::string>;
 
+} // namespace
+
 // A list of numbered strings, put together as a path.
-std::string Path(Reader& reader, const Names& strings)
+static std::string Path(Reader& reader, const Names& strings)
 {
     std::string path;
-    for (std::uint32_t left = reader.U16() / 2; left > 1; left--)
+    for (std::uint32_t left = reader.U16() / 2; left > 1; left--) {
         path += (path.empty() ? "" : "\\") + strings.at(reader.U16());
-    if (reader.U16() != 0)
+    }
+    if (reader.U16() != 0) {
         throw std::runtime_error("a list without an end");
+    }
     return path;
 }
+
+namespace {
 
 class BinaryPlan
 {
@@ -65,8 +73,9 @@ class BinaryPlan
 
     explicit BinaryPlan(const Bytes& instructions) : bytes(instructions)
     {
-        if (At(0).U32() != 0x4543534D || At(8).U32() != bytes.size())
+        if (At(0).U32() != 0x4543534D || At(8).U32() != bytes.size()) {
             throw std::runtime_error("no signature, or a wrong length");
+        }
         ReadHeader();
         ForEach(0, [this](Reader& record) {
             const std::uint32_t number = record.U16();
@@ -107,8 +116,9 @@ class BinaryPlan
     void ForEach(std::size_t section, Read read)
     {
         Reader record = At(At(60 + 4 * section).U32());
-        for (std::uint32_t left = At(48 + 2 * section).U16(); left > 0; left--)
+        for (std::uint32_t left = At(48 + 2 * section).U16(); left > 0; left--) {
             read(record);
+        }
     }
 
     void ReadFile(Reader& record)
@@ -126,8 +136,9 @@ class BinaryPlan
         record.U32();
         const std::string base = "%CE" + std::to_string(record.U16()) + "%";
         const std::string target = files.at(record.U16());
-        if (record.U16() != 1)
+        if (record.U16() != 1) {
             throw std::runtime_error("a link to no file");
+        }
         plan.push_back(ShortcutDeed(base + "\\" + Path(record, strings), target));
     }
 };

@@ -6,8 +6,9 @@
 
 static void Check(bool good, const std::string& problem)
 {
-    if (!good)
+    if (!good) {
         throw std::runtime_error(problem);
+    }
 }
 
 // "file ..." or "shortcut ..."
@@ -16,8 +17,9 @@ static std::string Deed(const XmlElement& folder, const XmlElement& file)
     const XmlElement& operation = file.Child(0);
     const std::string path = folder.Attribute("type") + "\\" + file.Attribute("type");
     const std::string source = operation.Parm("Source");
-    if (operation.Attribute("type") == "Shortcut")
+    if (operation.Attribute("type") == "Shortcut") {
         return ShortcutDeed(path, source);
+    }
     Check(operation.Attribute("type") == "Extract", "an unknown operation");
     return FileDeed(path, static_cast<std::uint32_t>(std::stoul(source.substr(source.rfind('.') + 1))));
 }

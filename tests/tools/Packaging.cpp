@@ -4,8 +4,9 @@
 ProgramResult RunPackaging(const std::vector<std::string>& call, const std::string& setup)
 {
     std::string script = "set -euo pipefail\n";
-    for (const char* file : {"common.sh", "build.sh", "package.sh"})
+    for (const char* file : {"common.sh", "build.sh", "package.sh"}) {
         script += "source \"$QV_SCRIPTS/" + std::string(file) + "\"\n";
+    }
     script += setup + "\n\"$@\"\n";
     // The name in front of the messages comes behind -c.
     std::vector<std::string> arguments = {"QV_SCRIPTS=" QV_SOURCE_ROOT "/scripts", "/bin/bash", "-c", script,

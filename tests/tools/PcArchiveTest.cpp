@@ -25,8 +25,9 @@ class PcArchiveTest : public testing::Test
 
     static void PutAll(const TempFolder& folder)
     {
-        for (const std::string& name : programs)
+        for (const std::string& name : programs) {
             folder.Put(name, Bytes(name.begin(), name.end()));
+        }
         std::filesystem::create_directory(folder.Path("profiles"));
         folder.Put("profiles/one.ini", {'1'});
         folder.Put("profiles/two.ini", {'2'});
@@ -59,8 +60,9 @@ TEST_F(PcArchiveTest, HoldsWhatAPcNeedsAndNothingElse)
                            "Quorvane/aygshell.dll\nQuorvane/coredll.dll\n"
                            "Quorvane/handheld.exe\nQuorvane/profiles/one.ini\nQuorvane/profiles/two.ini\n"
                            "Quorvane/run.cmd\nQuorvane/toolhelp.dll\n");
-    for (const std::string& name : programs)
+    for (const std::string& name : programs) {
         EXPECT_EQ(Extracted(name), name);
+    }
     EXPECT_EQ(Extracted("profiles/two.ini"), "2");
     EXPECT_EQ(output.Names(), std::vector<std::string>{"quorvane-pc.zip"});
 }
@@ -100,8 +102,9 @@ TEST_F(PcArchiveTest, TextsAreForWindows)
         const auto newlines = std::count(text.begin(), text.end(), '\n');
         EXPECT_GT(newlines, 10);
         EXPECT_EQ(std::count(text.begin(), text.end(), '\r'), newlines);
-        for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 1))
+        for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 1)) {
             EXPECT_EQ(text.at(at - 1), '\r');
+        }
         EXPECT_TRUE(std::all_of(text.begin(), text.end(), [](char c) { return c > 0; })) << "not ASCII";
         EXPECT_EQ(text.find("@VERSION@"), std::string::npos);
     }
@@ -131,10 +134,11 @@ TEST_F(PcArchiveTest, AMissingOrEmptyFileIsNamedAndAnOlderArchiveStays)
     const Bytes old = ReadAll(archive);
     for (const std::string& name : programs) {
         for (const bool empty : {true, false}) {
-            if (empty)
+            if (empty) {
                 bin.Put(name, {});
-            else
+            } else {
                 std::filesystem::remove(bin.Path(name));
+            }
             const ProgramResult result = Make(bin, archive);
             EXPECT_EQ(result.exitCode, 1);
             ExpectOneLine(result.errors, "packaging");

@@ -21,8 +21,9 @@ void PutU32Little(Bytes& bytes, std::size_t offset, std::uint32_t value)
 
 void PutU32Big(Bytes& bytes, std::size_t offset, std::uint32_t value)
 {
-    for (std::size_t i = 0; i < 4; i++)
+    for (std::size_t i = 0; i < 4; i++) {
         bytes.at(offset + i) = static_cast<std::uint8_t>(value >> (24 - 8 * i));
+    }
 }
 
 // Bit by bit, without a table.
@@ -31,8 +32,9 @@ static std::uint32_t Checksum(const Bytes& bytes)
     std::uint32_t crc = 0xffffffff;
     for (const std::uint8_t byte : bytes) {
         crc ^= byte;
-        for (int bit = 0; bit < 8; bit++)
+        for (int bit = 0; bit < 8; bit++) {
             crc = crc & 1 ? crc >> 1 ^ 0xedb88320u : crc >> 1;
+        }
     }
     return ~crc;
 }
@@ -78,8 +80,9 @@ Bytes PngPixels(std::uint8_t pixel)
 Bytes PngOf(const std::vector<Bytes>& chunks)
 {
     Bytes file = PngSignature();
-    for (const Bytes& chunk : chunks)
+    for (const Bytes& chunk : chunks) {
         Append(file, chunk);
+    }
     return file;
 }
 
@@ -109,8 +112,9 @@ static Bytes Bmp(std::uint32_t width, std::uint32_t height, std::uint32_t bits, 
 Bytes GoodBmp(std::uint32_t width, std::uint32_t height, std::uint8_t value)
 {
     Bytes file = Bmp(width, height, 24, 0);
-    for (std::size_t i = 54; i < file.size(); i++)
+    for (std::size_t i = 54; i < file.size(); i++) {
         file[i] = value;
+    }
     return file;
 }
 

@@ -10,8 +10,9 @@
 TempFolder::TempFolder()
 {
     std::string pattern = (std::filesystem::temp_directory_path() / "tools-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr)
+    if (mkdtemp(pattern.data()) == nullptr) {
         throw std::runtime_error("no temporary folder");
+    }
     folder = pattern;
 }
 
@@ -26,16 +27,18 @@ std::string TempFolder::Put(const std::string& name, const Bytes& content) const
     const std::string path = Path(name);
     std::ofstream file(path, std::ios::binary);
     file.write(reinterpret_cast<const char*>(content.data()), static_cast<std::streamsize>(content.size()));
-    if (!file.flush())
+    if (!file.flush()) {
         throw std::runtime_error("cannot write " + path);
+    }
     return path;
 }
 
 std::vector<std::string> TempFolder::Names() const
 {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         names.push_back(entry.path().filename().string());
+    }
     std::sort(names.begin(), names.end());
     return names;
 }
@@ -43,7 +46,8 @@ std::vector<std::string> TempFolder::Names() const
 Bytes ReadAll(const std::string& path)
 {
     std::ifstream file(path, std::ios::binary);
-    if (!file)
+    if (!file) {
         throw std::runtime_error("cannot open " + path);
+    }
     return Bytes(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
 }

@@ -24,14 +24,16 @@ class Parser
   private:
     void Check(bool good, const std::string& problem) const
     {
-        if (!good)
+        if (!good) {
             throw std::runtime_error("not well-formed at " + std::to_string(at) + ": " + problem);
+        }
     }
 
     bool Take(const std::string& expected)
     {
-        if (text.compare(at, expected.size(), expected) != 0)
+        if (text.compare(at, expected.size(), expected) != 0) {
             return false;
+        }
         at += expected.size();
         return true;
     }
@@ -41,16 +43,18 @@ class Parser
     bool Blanks()
     {
         const std::size_t begin = at;
-        while (at < text.size() && (text[at] == ' ' || text[at] == '\n'))
+        while (at < text.size() && (text[at] == ' ' || text[at] == '\n')) {
             at++;
+        }
         return at > begin;
     }
 
     std::string Name()
     {
         const std::size_t begin = at;
-        while (at < text.size() && (std::isalpha(static_cast<unsigned char>(text[at])) || text[at] == '-'))
+        while (at < text.size() && (std::isalpha(static_cast<unsigned char>(text[at])) || text[at] == '-')) {
             at++;
+        }
         Check(at > begin, "no name");
         return text.substr(begin, at - begin);
     }
@@ -86,11 +90,13 @@ class Parser
             Need("=");
             Check(element.attributes.emplace(key, Value()).second, "an attribute given twice");
         }
-        if (Take("/>"))
+        if (Take("/>")) {
             return element;
+        }
         Need(">");
-        for (Blanks(); !Take("</"); Blanks())
+        for (Blanks(); !Take("</"); Blanks()) {
             element.children.push_back(Element());
+        }
         Need(element.name + ">");
         return element;
     }
@@ -101,8 +107,9 @@ class Parser
 std::string XmlElement::Parm(const std::string& key) const
 {
     for (const XmlElement& child : children) {
-        if (child.name == "parm" && child.Attribute("name") == key)
+        if (child.name == "parm" && child.Attribute("name") == key) {
             return child.Attribute("value");
+        }
     }
     throw std::runtime_error("no parm " + key);
 }

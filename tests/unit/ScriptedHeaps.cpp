@@ -12,8 +12,9 @@ static HANDLE WINAPI TakeSnapshot(DWORD flags, DWORD processId)
 {
     script->snapshots.push_back(processId);
     script->snapshotFlags.push_back(flags);
-    if (script->processes.find(processId) == script->processes.end())
+    if (script->processes.find(processId) == script->processes.end()) {
         return INVALID_HANDLE_VALUE;
+    }
     script->open++;
     process = processId;
     return snapshotHandle;
@@ -29,8 +30,9 @@ static BOOL WINAPI CloseSnapshot(HANDLE snapshot)
 static BOOL GiveHeap(HANDLE snapshot, HEAPLIST32* list)
 {
     script->badRequest |= snapshot != snapshotHandle || list->dwSize != sizeof(HEAPLIST32);
-    if (heapNumber >= script->processes[process].size())
+    if (heapNumber >= script->processes[process].size()) {
         return FALSE;
+    }
     list->th32ProcessID = process;
     list->th32HeapID = firstHeapId + static_cast<DWORD>(heapNumber);
     return TRUE;
@@ -52,8 +54,9 @@ static BOOL GiveBlock(HEAPENTRY32* entry)
 {
     script->badRequest |= entry->dwSize != sizeof(HEAPENTRY32);
     const ScriptedHeap& heap = script->processes[process][heapNumber];
-    if (blockNumber >= heap.blocks.size())
+    if (blockNumber >= heap.blocks.size()) {
         return FALSE;
+    }
     entry->dwBlockSize = heap.blocks[blockNumber];
     entry->dwFlags = heap.blockFlags;
     return TRUE;

@@ -8,8 +8,9 @@ static DWORD_PTR WINAPI AnswerFileInfo(const wchar_t* path, DWORD, SHFILEINFOW* 
     script->askedPaths.emplace_back(path);
     script->askedFlags.push_back(flags);
     const auto found = script->indexes.find(path);
-    if (found == script->indexes.end())
+    if (found == script->indexes.end()) {
         return 0;
+    }
     info->iIcon = found->second;
     return 1;
 }

@@ -36,8 +36,9 @@ static BOOL WINAPI AnswerIsWindow(HWND window)
 static LONG_PTR WINAPI AnswerLong(HWND window, int index)
 {
     const ScriptedWindow* found = script->Ask(window);
-    if (!found)
+    if (!found) {
         return 0;
+    }
     return index == GWL_STYLE ? found->style : index == GWL_EXSTYLE ? found->exStyle : 0;
 }
 
@@ -62,16 +63,18 @@ static int WINAPI AnswerClass(HWND window, wchar_t* buffer, int size)
 static DWORD WINAPI AnswerProcess(HWND window, DWORD* processId)
 {
     const ScriptedWindow* found = script->Ask(window);
-    if (found)
+    if (found) {
         *processId = found->processId;
+    }
     return found ? 1 : 0;
 }
 
 static BOOL WINAPI AnswerRect(HWND window, RECT* rect)
 {
     const ScriptedWindow* found = script->Ask(window);
-    if (found)
+    if (found) {
         *rect = found->rect;
+    }
     return found != nullptr;
 }
 
@@ -89,8 +92,9 @@ static DWORD WINAPI AnswerPath(HMODULE module, wchar_t* buffer, DWORD size)
 static BOOL WINAPI AnswerEnumeration(WNDENUMPROC callback, LPARAM parameter)
 {
     for (HWND window : std::vector<HWND>(script->order)) {
-        if (!callback(window, parameter))
+        if (!callback(window, parameter)) {
             return FALSE;
+        }
     }
     return TRUE;
 }
@@ -128,10 +132,11 @@ HWND ScriptedWindows::Add(const ScriptedWindow& window)
 
 const ScriptedWindow* ScriptedWindows::Ask(HWND window)
 {
-    if (lifeInQuestions == 0)
+    if (lifeInQuestions == 0) {
         windows.clear();
-    else if (lifeInQuestions > 0)
+    } else if (lifeInQuestions > 0) {
         lifeInQuestions--;
+    }
     const auto found = windows.find(window);
     return found == windows.end() ? nullptr : &found->second;
 }

@@ -7,15 +7,15 @@
 
 #include <initializer_list>
 
-namespace {
+static constexpr std::size_t headerSize = 100;
+static constexpr std::size_t signature = 0x4543534D; // "MSCE"
+static constexpr std::size_t usualWord = 1;          // of unknown meaning, as all installers have it
+static constexpr std::size_t processorArm = 2577;
+static constexpr std::size_t folderNumber = 1;
+static constexpr std::size_t overwriteAlways = 0x40000000; // whatever the file's date is
+static constexpr std::size_t linkToFile = 1;
 
-constexpr std::size_t headerSize = 100;
-constexpr std::size_t signature = 0x4543534D; // "MSCE"
-constexpr std::size_t usualWord = 1;          // of unknown meaning, as all installers have it
-constexpr std::size_t processorArm = 2577;
-constexpr std::size_t folderNumber = 1;
-constexpr std::size_t overwriteAlways = 0x40000000; // whatever the file's date is
-constexpr std::size_t linkToFile = 1;
+namespace {
 
 struct Section
 {
@@ -23,8 +23,10 @@ struct Section
     HeaderBytes bytes;
 };
 
+} // namespace
+
 // The standard folder counts as the first part of a path.
-Section FolderSection(const Installation& installation, StringTable& strings)
+static Section FolderSection(const Installation& installation, StringTable& strings)
 {
     Section section{1, {}};
     std::vector<std::size_t> path = {strings.Number(installation.folder.BaseText())};
@@ -36,7 +38,7 @@ Section FolderSection(const Installation& installation, StringTable& strings)
     return section;
 }
 
-Section FileSection(const Installation& installation)
+static Section FileSection(const Installation& installation)
 {
     Section section{installation.files.size(), {}};
     for (std::size_t i = 0; i < installation.files.size(); i++) {
@@ -50,7 +52,7 @@ Section FileSection(const Installation& installation)
 }
 
 // Here the standard folder is a number of its own.
-Section LinkSection(const Installation& installation, StringTable& strings)
+static Section LinkSection(const Installation& installation, StringTable& strings)
 {
     Section section{installation.shortcuts.size(), {}};
     for (std::size_t i = 0; i < installation.shortcuts.size(); i++) {
@@ -65,21 +67,19 @@ Section LinkSection(const Installation& installation, StringTable& strings)
     return section;
 }
 
-void Add32s(HeaderBytes& bytes, std::initializer_list<std::size_t> numbers)
+static void Add32s(HeaderBytes& bytes, std::initializer_list<std::size_t> numbers)
 {
     for (const std::size_t number : numbers) {
         bytes.Add32(number);
     }
 }
 
-void Add16s(HeaderBytes& bytes, std::initializer_list<std::size_t> numbers)
+static void Add16s(HeaderBytes& bytes, std::initializer_list<std::size_t> numbers)
 {
     for (const std::size_t number : numbers) {
         bytes.Add16(number);
     }
 }
-
-} // namespace
 
 std::vector<std::uint8_t> WriteBinaryInstructions(const Installation& installation)
 {

@@ -11,17 +11,20 @@ OutputFile::OutputFile(const std::string& outputPath) : path(outputPath)
 {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
-    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
         throw Refusal::WithFile(path, "cannot be written: it exists and is not a regular file");
+    }
     OpenTemporary();
 }
 
 OutputFile::~OutputFile()
 {
-    if (file != nullptr)
+    if (file != nullptr) {
         std::fclose(file);
-    if (!temporaryPath.empty())
+    }
+    if (!temporaryPath.empty()) {
         std::remove(temporaryPath.c_str());
+    }
 }
 
 void OutputFile::OpenTemporary()
@@ -35,16 +38,18 @@ void OutputFile::OpenTemporary()
             temporaryPath = candidate;
             return;
         }
-        if (errno != EEXIST)
+        if (errno != EEXIST) {
             break;
+        }
     }
     Fail(errno);
 }
 
 void OutputFile::Write(std::span<const std::uint8_t> bytes)
 {
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size())
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file) != bytes.size()) {
         Fail(errno);
+    }
 }
 
 void OutputFile::Commit()
@@ -52,10 +57,12 @@ void OutputFile::Commit()
     // A full disk may show only when the buffer is written out.
     const int closed = std::fclose(file);
     file = nullptr;
-    if (closed != 0)
+    if (closed != 0) {
         Fail(errno);
-    if (std::rename(temporaryPath.c_str(), path.c_str()) != 0)
+    }
+    if (std::rename(temporaryPath.c_str(), path.c_str()) != 0) {
         Fail(errno);
+    }
     temporaryPath.clear();
 }
 

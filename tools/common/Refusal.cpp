@@ -11,8 +11,9 @@ std::string Printable(const std::string& text)
     std::string result = text;
     for (char& c : result) {
         const unsigned char code = static_cast<unsigned char>(c);
-        if (code < 0x20 || code == 0x7f)
+        if (code < 0x20 || code == 0x7f) {
             c = '?';
+        }
     }
     return result;
 }

@@ -4,37 +4,35 @@
 #include <cstdio>
 #include <cwchar>
 
-namespace {
+static constexpr int unreached = 1;
+static constexpr int wrongUsage = 2;
 
-constexpr int Unreached = 1;
-constexpr int WrongUsage = 2;
-
-int Usage()
+static int Usage()
 {
     fputs(
         "Usage: tour.exe --open PROGRAM ...   open Wine's own programs of these names and leave them open\n"
         "       tour.exe --pictures FOLDER    go through Quorvane and leave a picture of every state there\n",
         stderr);
-    return WrongUsage;
+    return wrongUsage;
 }
-
-} // namespace
 
 int wmain(int count, wchar_t** arguments)
 {
     SetProcessDPIAware();
-    if (count < 3)
+    if (count < 3) {
         return Usage();
+    }
     try {
-        if (wcscmp(arguments[1], L"--open") == 0)
+        if (wcscmp(arguments[1], L"--open") == 0) {
             OpenPrograms({arguments + 2, arguments + count});
-        else if (wcscmp(arguments[1], L"--pictures") == 0 && count == 3)
+        } else if (wcscmp(arguments[1], L"--pictures") == 0 && count == 3) {
             Tour(arguments[2]).Run();
-        else
+        } else {
             return Usage();
+        }
     } catch (const TourError& error) {
         fprintf(stderr, "tour: %s\n", error.what());
-        return Unreached;
+        return unreached;
     }
     return 0;
 }

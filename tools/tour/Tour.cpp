@@ -10,50 +10,50 @@
 
 using namespace rig;
 
-namespace {
-
-constexpr int TasksPage = 1;
-constexpr int SysInfoPage = 2;
-constexpr int LauncherPage = 3;
-constexpr int ProcsPage = 4;
+static constexpr int tasksPage = 1;
+static constexpr int sysInfoPage = 2;
+static constexpr int launcherPage = 3;
+static constexpr int procsPage = 4;
 // A screen on which nothing has been drawn, or text alone without icons and bands, has fewer.
-constexpr int FewestColours = 8;
+static constexpr int fewestColours = 8;
 
-void Require(bool reached, const std::string& complaint)
+static void Require(bool reached, const std::string& complaint)
 {
-    if (!reached)
+    if (!reached) {
         throw TourError(complaint);
+    }
 }
 
-bool HasReport(HWND dialog)
+static bool HasReport(HWND dialog)
 {
     const HWND text = GetDlgItem(dialog, IDC_INFORMATION_TEXT);
     return text && !TextOf(text).empty();
 }
 
-bool HasWindowTree(HWND dialog)
+static bool HasWindowTree(HWND dialog)
 {
     const HWND tree = GetDlgItem(dialog, IDC_WINDOWS_TREE);
     return tree && TreeItems(tree).size() > 1;
 }
 
 // Main windows that a user can go to; the home screen is one, with a title or without.
-int CountOpenPrograms()
+static int CountOpenPrograms()
 {
     int count = 0;
     for (HWND window : TopWindows()) {
         const LONG exStyle = GetWindowLongW(window, GWL_EXSTYLE);
         const bool named = GetWindowTextLengthW(window) > 0 || ClassOf(window) == L"DesktopExplorerWindow";
         if (IsWindowVisible(window) && IsWindowEnabled(window) && !GetWindow(window, GW_OWNER) && named &&
-            !(exStyle & (WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE)))
+            !(exStyle & (WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE))) {
             ++count;
+        }
     }
     return count;
 }
 
 // Below the top bar, and as large as the screen allows when the window can be sized: Wine's programs do not
 // know that they are on a handheld.
-void PlaceAsOnDevice(HWND window)
+static void PlaceAsOnDevice(HWND window)
 {
     RECT area = {};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
@@ -62,22 +62,21 @@ void PlaceAsOnDevice(HWND window)
                  SWP_NOZORDER | SWP_NOACTIVATE | (sizable ? 0 : SWP_NOSIZE));
 }
 
-bool IsThere(HWND)
+static bool IsThere(HWND)
 {
     return true;
 }
 
 // The top bar looks at the front window a few times a second; its own text is the title that it shows.
-bool TopBarIsUpToDate()
+static bool TopBarIsUpToDate()
 {
     HWND window = GetForegroundWindow();
     std::wstring title = TextOf(window);
-    while (title.empty() && (window = GetWindow(window, GW_OWNER)) != nullptr)
+    while (title.empty() && (window = GetWindow(window, GW_OWNER)) != nullptr) {
         title = TextOf(window);
+    }
     return TextOf(FindWindowW(L"Shell_TrayWnd", nullptr)) == title;
 }
-
-} // namespace
 
 Tour::Tour(const std::wstring& pictures) : folder(pictures), program(Program::Start()) {}
 
@@ -91,28 +90,28 @@ void Tour::Run()
     ShowReports();
     ShowRefusedClose();
     program.Command(CMD_EXIT);
-    Require(program.ExitCode(Patience) == 0u,
+    Require(program.ExitCode(patience) == 0u,
             "Quorvane did not end by its Exit command with the exit code 0");
 }
 
 void Tour::ShowPages()
 {
-    Require(WaitFor([&] { return program.VisiblePage() == TasksPage; }),
+    Require(WaitFor([&] { return program.VisiblePage() == tasksPage; }),
             "the first page is not Running apps");
     // The page may have been filled before the program's own window was there.
     const bool complete = WaitFor([&] {
         Send(program.MainWindow(), WM_COMMAND, CMD_REFRESH);
-        return ListCount(program.List(TasksPage)) == CountOpenPrograms();
+        return ListCount(program.List(tasksPage)) == CountOpenPrograms();
     });
     Require(complete, "Running apps does not list every open program");
     Keep("running");
-    GoToPage(SysInfoPage, CMD_SHOW_SYSINFO);
+    GoToPage(sysInfoPage, CMD_SHOW_SYSINFO);
     Keep("sysinfo");
-    GoToPage(LauncherPage, CMD_SHOW_START);
+    GoToPage(launcherPage, CMD_SHOW_START);
     Keep("start");
-    GoToPage(ProcsPage, CMD_SHOW_PROCS);
+    GoToPage(procsPage, CMD_SHOW_PROCS);
     Keep("processes");
-    GoToPage(TasksPage, CMD_SHOW_TASKS);
+    GoToPage(tasksPage, CMD_SHOW_TASKS);
 }
 
 void Tour::ShowMenus()
@@ -122,8 +121,8 @@ void Tour::ShowMenus()
     Keep("running-menu");
     CloseMenus();
 
-    const RECT page = ClientRectOnScreen(program.Page(TasksPage));
-    const RECT list = ScreenRectOf(program.List(TasksPage));
+    const RECT page = ClientRectOnScreen(program.Page(tasksPage));
+    const RECT list = ScreenRectOf(program.List(tasksPage));
     Require(list.top > page.top, "the page has no band above its list");
     Tap({(page.left + page.right) / 2, (page.top + list.top) / 2});
     Require(WaitFor([] { return OpenMenu() != nullptr; }), "a tap on the page's band opens no menu");
@@ -133,9 +132,9 @@ void Tour::ShowMenus()
 
 void Tour::ShowReports()
 {
-    SelectRow(TasksPage, 1);
+    SelectRow(tasksPage, 1);
     ShowDialog(CMD_APPLICATION_INFO, "window-report", HasReport);
-    SelectRow(TasksPage, 1);
+    SelectRow(tasksPage, 1);
     ShowDialog(CMD_WINDOWS_LIST, "windows-list", HasWindowTree);
     ShowDialog(CMD_ABOUT, "about", IsThere);
 }
@@ -143,7 +142,7 @@ void Tour::ShowReports()
 void Tour::ShowRefusedClose()
 {
     // The home screen lies behind everything else, so it is the last row.
-    SelectRow(TasksPage, ListCount(program.List(TasksPage)) - 1);
+    SelectRow(tasksPage, ListCount(program.List(tasksPage)) - 1);
     program.Command(CMD_CLOSE_APPLICATION);
     Require(WaitFor([&] { return program.Notice() != nullptr; }),
             "closing the home screen is not refused by a notice");
@@ -185,8 +184,9 @@ void Tour::ShowDialog(int command, const char* picture, const std::function<bool
 void Tour::CloseMenus()
 {
     const bool closed = WaitFor([] {
-        if (!OpenMenu())
+        if (!OpenMenu()) {
             return true;
+        }
         PressKey(VK_ESCAPE);
         Sleep(100);
         return OpenMenu() == nullptr;
@@ -199,7 +199,7 @@ void Tour::Keep(const char* picture)
     const std::string name(picture);
     Require(WaitFor(TopBarIsUpToDate), "the top bar shows another title for " + name);
     const Picture screen = Picture::OfSettledScreen();
-    Require(screen.Colours() >= FewestColours, "the screen is empty for " + name);
+    Require(screen.Colours() >= fewestColours, "the screen is empty for " + name);
     Require(screen.SavePng(folder + L"\\" + std::wstring(name.begin(), name.end()) + L".png"),
             "cannot write the picture " + name + ".png");
 }
@@ -216,7 +216,7 @@ void OpenPrograms(const std::vector<std::wstring>& names)
         // Wine's X driver lifts a window's picture above all others whenever its program moves the focus
         // inside it, even when another program has the front by then. So it must have come to rest before the
         // next one starts.
-        WaitForInputIdle(process.Handle(), static_cast<DWORD>(Patience.count()));
+        WaitForInputIdle(process.Handle(), static_cast<DWORD>(patience.count()));
         Picture::OfSettledScreen();
         process.Release();
     }

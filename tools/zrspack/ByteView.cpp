@@ -12,8 +12,9 @@ bool ByteView::Has(std::uint64_t offset, std::uint64_t size) const
 
 ByteView ByteView::Part(std::uint64_t offset, std::uint64_t size) const
 {
-    if (!Has(offset, size))
+    if (!Has(offset, size)) {
         throw Refusal("is truncated");
+    }
     return ByteView(bytes.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(size)));
 }
 

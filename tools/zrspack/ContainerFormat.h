@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-namespace ContainerFormat {
+namespace container_format {
 inline constexpr std::array<std::uint8_t, 7> magic = {'Q', 'V', '_', 'Z', 'R', 'S', 0};
 inline constexpr std::uint32_t version = 1;
 inline constexpr std::uint32_t headerWords = 3;
@@ -13,4 +13,4 @@ inline constexpr std::uint64_t wordsOffset = 11;
 inline constexpr std::uint64_t countOffset = 23;
 inline constexpr std::uint64_t directoryOffset = 27;
 inline constexpr std::uint64_t recordSize = 20; // id, offset, size, two reserved words
-} // namespace ContainerFormat
+} // namespace container_format

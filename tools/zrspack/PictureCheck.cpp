@@ -9,12 +9,15 @@
 
 PictureInfo CheckPicture(ByteView file)
 {
-    if (file.Size() == 0)
+    if (file.Size() == 0) {
         throw Refusal("is empty");
-    if (IsPng(file))
+    }
+    if (IsPng(file)) {
         return CheckPng(file);
-    if (IsBmp(file))
+    }
+    if (IsBmp(file)) {
         return CheckBmp(file);
+    }
     throw Refusal("is neither a PNG nor a BMP file");
 }
 

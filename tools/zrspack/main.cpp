@@ -18,8 +18,9 @@ static void Pack(const CommandLine& call)
     ContainerWriter container;
     for (const PackEntry& entry : call.entries) {
         std::error_code ignored;
-        if (std::filesystem::equivalent(entry.file, call.file, ignored))
+        if (std::filesystem::equivalent(entry.file, call.file, ignored)) {
             throw Refusal::WithFile(entry.file, "is also the output");
+        }
         std::vector<std::uint8_t> bytes = ReadInputFile(entry.file);
         try {
             CheckPicture(ByteView(bytes));

@@ -6,18 +6,16 @@
 
 #include <vector>
 
-namespace {
-
-constexpr WPARAM InputPanelSetting = SPI_SETSIPINFO;
+static constexpr WPARAM inputPanelSetting = SPI_SETSIPINFO;
 
 // Frames that a window covering the whole screen has no use for; its title stands in the top bar.
-constexpr LONG_PTR FrameStyles = WS_CAPTION | WS_THICKFRAME | WS_SYSMENU | DS_MODALFRAME;
-constexpr LONG_PTR FrameExStyles = WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE;
+static constexpr LONG_PTR frameStyles = WS_CAPTION | WS_THICKFRAME | WS_SYSMENU | DS_MODALFRAME;
+static constexpr LONG_PTR frameExStyles = WS_EX_DLGMODALFRAME | WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE;
 
-void CoverProgramRect(HWND dialog)
+static void CoverProgramRect(HWND dialog)
 {
-    SetWindowLongPtrW(dialog, GWL_STYLE, GetWindowLongPtrW(dialog, GWL_STYLE) & ~FrameStyles);
-    SetWindowLongPtrW(dialog, GWL_EXSTYLE, GetWindowLongPtrW(dialog, GWL_EXSTYLE) & ~FrameExStyles);
+    SetWindowLongPtrW(dialog, GWL_STYLE, GetWindowLongPtrW(dialog, GWL_STYLE) & ~frameStyles);
+    SetWindowLongPtrW(dialog, GWL_EXSTYLE, GetWindowLongPtrW(dialog, GWL_EXSTYLE) & ~frameExStyles);
     const RECT area = handheld::ProgramRect();
     SetWindowPos(dialog, nullptr, area.left, area.top, area.right - area.left,
                  area.bottom - area.top - handheld::BarHeight(),
@@ -25,18 +23,16 @@ void CoverProgramRect(HWND dialog)
 }
 
 // With the bar's colour or, older, without.
-bool IsMenuBarInfoSize(DWORD size)
+static bool IsMenuBarInfoSize(DWORD size)
 {
     return size == sizeof(SHMENUBARINFO) || size == offsetof(SHMENUBARINFO, clrBk);
 }
 
-bool CanTakeFocus(HWND window, HWND root)
+static bool CanTakeFocus(HWND window, HWND root)
 {
     return window && (window == root || IsChild(root, window)) && IsWindowVisible(window) &&
            IsWindowEnabled(window);
 }
-
-} // namespace
 
 extern "C" BOOL WINAPI ce_SHInitExtraControls()
 {
@@ -55,8 +51,9 @@ extern "C" BOOL WINAPI ce_SHCreateMenuBar(SHMENUBARINFO* info)
         return FALSE;
     }
     info->hwndMB = MenuBar::Create(info->hwndParent, info->hInstRes, empty ? 0 : info->nToolBarId);
-    if (!info->hwndMB)
+    if (!info->hwndMB) {
         return FALSE;
+    }
     KeepBarWithOwner(info->hwndParent);
     return TRUE;
 }
@@ -65,18 +62,21 @@ extern "C" BOOL WINAPI ce_SHCreateMenuBar(SHMENUBARINFO* info)
 extern "C" BOOL WINAPI ce_SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM, SHACTIVATEINFO* info, DWORD)
 {
     const bool active = LOWORD(wParam) != WA_INACTIVE;
-    if (info)
+    if (info) {
         info->fActive = active;
+    }
     const HWND focus = GetFocus();
     if (!active) {
-        if (info && CanTakeFocus(focus, window))
+        if (info && CanTakeFocus(focus, window)) {
             info->hwndLastFocus = focus;
+        }
     } else if (IsWindowEnabled(window)) {
         const HWND last = info ? info->hwndLastFocus : nullptr;
-        if (CanTakeFocus(last, window))
+        if (CanTakeFocus(last, window)) {
             SetFocus(last);
-        else if (!CanTakeFocus(focus, window))
+        } else if (!CanTakeFocus(focus, window)) {
             SetFocus(window);
+        }
     }
     return TRUE;
 }
@@ -84,7 +84,7 @@ extern "C" BOOL WINAPI ce_SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM,
 // The handheld has no input panel that could cover a window.
 extern "C" BOOL WINAPI ce_SHHandleWMSettingChange(HWND, WPARAM wParam, LPARAM, SHACTIVATEINFO* info)
 {
-    return wParam == InputPanelSetting && info != nullptr;
+    return wParam == inputPanelSetting && info != nullptr;
 }
 
 extern "C" BOOL WINAPI ce_SHInitDialog(SHINITDLGINFO* info)
@@ -93,8 +93,9 @@ extern "C" BOOL WINAPI ce_SHInitDialog(SHINITDLGINFO* info)
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    if (info->dwFlags & SHIDIF_SIZEDLGFULLSCREEN)
+    if (info->dwFlags & SHIDIF_SIZEDLGFULLSCREEN) {
         CoverProgramRect(info->hDlg);
+    }
     return TRUE;
 }
 
@@ -102,10 +103,12 @@ extern "C" BOOL WINAPI ce_SHInitDialog(SHINITDLGINFO* info)
 extern "C" void WINAPI ce_SHSendBackToFocusWindow(UINT message, WPARAM, LPARAM lParam)
 {
     const HWND focus = GetFocus();
-    if (!focus || message != WM_HOTKEY || HIWORD(lParam) != VK_ESCAPE)
+    if (!focus || message != WM_HOTKEY || HIWORD(lParam) != VK_ESCAPE) {
         return;
+    }
     const bool released = (LOWORD(lParam) & MOD_KEYUP) != 0;
     PostMessageW(focus, released ? WM_KEYUP : WM_KEYDOWN, VK_BACK, released ? 0xC0000001 : 1);
-    if (!released)
+    if (!released) {
         PostMessageW(focus, WM_CHAR, L'\b', 1);
+    }
 }

@@ -6,12 +6,10 @@
 #include "platform/pc/common/SoftKeys.h"
 #include "platform/pc/common/WindowObject.h"
 
-namespace {
-
 // A bar's strings with smaller ids are the shell's own words, as on the device.
-constexpr UINT FirstProgramString = 100;
+static constexpr UINT firstProgramString = 100;
 
-HINSTANCE ThisModule()
+static HINSTANCE ThisModule()
 {
     HMODULE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
@@ -19,14 +17,13 @@ HINSTANCE ThisModule()
     return module;
 }
 
-} // namespace
-
 HWND MenuBar::Create(HWND owner, HINSTANCE resources, UINT resourceId)
 {
-    if (!RegisterWindowClass())
+    if (!RegisterWindowClass()) {
         return nullptr;
+    }
     auto* bar = new MenuBar;
-    bar->m_owner = owner;
+    bar->owner = owner;
     if (resourceId != 0 && !bar->Load(resources, resourceId)) {
         delete bar;
         return nullptr;
@@ -35,12 +32,13 @@ HWND MenuBar::Create(HWND owner, HINSTANCE resources, UINT resourceId)
     const DWORD visible = IsWindowVisible(owner) ? WS_VISIBLE : 0;
     // From WM_NCCREATE on the window owns the object.
     const HWND window =
-        CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, handheld::MenuBarClass, nullptr,
+        CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, handheld::menuBarClass, nullptr,
                         WS_POPUP | visible, screen.left, screen.bottom - handheld::BarHeight(),
                         screen.right - screen.left, handheld::BarHeight(), owner, nullptr, ThisModule(), bar);
     // At once: it takes the place of the bar that was just destroyed, and its owner may be busy for a while.
-    if (window)
+    if (window) {
         UpdateWindow(window);
+    }
     return window;
 }
 
@@ -48,131 +46,141 @@ MenuBar::~MenuBar()
 {
     // The owner was destroyed below the open menu, whose loop would wait for ever. EndMenu asks the menu's
     // window, which goes with the owner too; the loop itself listens to the thread's message.
-    if (m_menuOpen) {
+    if (menuOpen) {
         EndMenu();
         PostThreadMessageW(GetCurrentThreadId(), WM_CANCELMODE, 0, 0);
     }
-    if (m_menu)
-        DestroyMenu(m_menu);
-    if (m_font)
-        DeleteObject(m_font);
+    if (menu) {
+        DestroyMenu(menu);
+    }
+    if (font) {
+        DeleteObject(font);
+    }
 }
 
 bool MenuBar::RegisterWindowClass()
 {
     WNDCLASSW windowClass = {};
-    if (GetClassInfoW(ThisModule(), handheld::MenuBarClass, &windowClass))
+    if (GetClassInfoW(ThisModule(), handheld::menuBarClass, &windowClass)) {
         return true;
+    }
     windowClass = {};
     windowClass.lpfnWndProc = WindowProcedure;
     windowClass.hInstance = ThisModule();
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = handheld::MenuBarClass;
+    windowClass.lpszClassName = handheld::menuBarClass;
     return RegisterClassW(&windowClass) != 0;
 }
 
 bool MenuBar::Load(HINSTANCE resources, UINT resourceId)
 {
-    const HRSRC resource = FindResourceW(resources, MAKEINTRESOURCEW(resourceId), RT_RCDATA);
-    if (!resource)
+    const HRSRC found = FindResourceW(resources, MAKEINTRESOURCEW(resourceId), RT_RCDATA);
+    if (!found) {
         return false;
-    const HGLOBAL block = LoadResource(resources, resource);
-    const void* data = block ? LockResource(block) : nullptr;
-    if (!data || !handheld::ReadMenuBarResource(data, SizeofResource(resources, resource), m_resource))
-        return false;
-    for (size_t key = 0; key < m_texts.size() && key < m_resource.buttons.size(); ++key) {
-        wchar_t text[64] = {};
-        const UINT textId = m_resource.buttons[key].textId;
-        LoadStringW(textId < FirstProgramString ? ThisModule() : resources, textId, text, 64);
-        m_texts[key] = text;
     }
-    m_menu = LoadMenuW(resources, MAKEINTRESOURCEW(m_resource.menuId));
-    m_font = handheld::CreateScreenFont(9, FW_BOLD);
+    const HGLOBAL block = LoadResource(resources, found);
+    const void* data = block ? LockResource(block) : nullptr;
+    if (!data || !handheld::ReadMenuBarResource(data, SizeofResource(resources, found), resource)) {
+        return false;
+    }
+    for (size_t key = 0; key < texts.size() && key < resource.buttons.size(); ++key) {
+        wchar_t text[64] = {};
+        const UINT textId = resource.buttons[key].textId;
+        LoadStringW(textId < firstProgramString ? ThisModule() : resources, textId, text, 64);
+        texts[key] = text;
+    }
+    menu = LoadMenuW(resources, MAKEINTRESOURCEW(resource.menuId));
+    font = handheld::CreateScreenFont(9, FW_BOLD);
     return true;
 }
 
 RECT MenuBar::KeyRect(int key) const
 {
     RECT rect;
-    GetClientRect(m_window, &rect);
+    GetClientRect(window, &rect);
     const LONG middle = rect.right / 2;
-    if (key == 0)
+    if (key == 0) {
         rect.right = middle;
-    else
+    } else {
         rect.left = middle;
+    }
     return rect;
 }
 
 int MenuBar::KeyAt(LPARAM position) const
 {
     const POINT point = {static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
-    for (int key = 0; key < KeyCount; ++key) {
+    for (int key = 0; key < keyCount; ++key) {
         const RECT rect = KeyRect(key);
-        if (PtInRect(&rect, point))
+        if (PtInRect(&rect, point)) {
             return key;
+        }
     }
-    return NoKey;
+    return noKey;
 }
 
 bool MenuBar::IsUsable(int key) const
 {
-    return key >= 0 && static_cast<size_t>(key) < m_resource.buttons.size() &&
-           (m_resource.buttons[static_cast<size_t>(key)].state & handheld::SoftKeyButton::Enabled) != 0;
+    return key >= 0 && static_cast<size_t>(key) < resource.buttons.size() &&
+           (resource.buttons[static_cast<size_t>(key)].state & handheld::SoftKeyButton::enabled) != 0;
 }
 
 void MenuBar::SetPressed(int key)
 {
-    if (m_pressed == key)
+    if (pressed == key) {
         return;
-    m_pressed = key;
-    InvalidateRect(m_window, nullptr, FALSE);
-    UpdateWindow(m_window);
+    }
+    pressed = key;
+    InvalidateRect(window, nullptr, FALSE);
+    UpdateWindow(window);
 }
 
 // A disabled owner waits for a dialog or a message box that has no bar of its own to cover this one.
 void MenuBar::Press(int key)
 {
-    if (!IsUsable(key) || !IsWindowEnabled(m_owner))
+    if (!IsUsable(key) || !IsWindowEnabled(owner)) {
         return;
-    const handheld::SoftKeyButton& button = m_resource.buttons[static_cast<size_t>(key)];
-    const HMENU menu =
-        button.subMenu == handheld::SoftKeyButton::NoMenu ? nullptr : GetSubMenu(m_menu, button.subMenu);
-    if (menu)
-        OpenMenu(key, menu);
-    else
-        PostMessageW(m_owner, WM_COMMAND, button.command, reinterpret_cast<LPARAM>(m_window));
+    }
+    const handheld::SoftKeyButton& button = resource.buttons[static_cast<size_t>(key)];
+    const HMENU subMenu =
+        button.subMenu == handheld::SoftKeyButton::noMenu ? nullptr : GetSubMenu(menu, button.subMenu);
+    if (subMenu) {
+        OpenMenu(key, subMenu);
+    } else {
+        PostMessageW(owner, WM_COMMAND, button.command, reinterpret_cast<LPARAM>(window));
+    }
 }
 
-void MenuBar::OpenMenu(int key, HMENU menu)
+void MenuBar::OpenMenu(int key, HMENU subMenu)
 {
-    RECT bar;
-    GetWindowRect(m_window, &bar);
+    RECT edges;
+    GetWindowRect(window, &edges);
     const UINT side = key == 0 ? TPM_LEFTALIGN : TPM_RIGHTALIGN;
     RECT place = KeyRect(key);
-    MapWindowPoints(m_window, nullptr, reinterpret_cast<POINT*>(&place), 2);
-    const HWND window = m_window;
+    MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&place), 2);
+    const HWND bar = window;
     SetPressed(key);
-    m_menuOpen = true;
-    handheld::TrackMenu(menu, side | TPM_BOTTOMALIGN, key == 0 ? bar.left : bar.right, bar.top, m_owner,
-                        nullptr, {key, place});
+    menuOpen = true;
+    handheld::TrackMenu(subMenu, side | TPM_BOTTOMALIGN, key == 0 ? edges.left : edges.right, edges.top,
+                        owner, nullptr, {key, place});
     // The owner and with it this bar may have gone while the menu was open.
-    if (IsWindow(window)) {
-        m_menuOpen = false;
-        SetPressed(NoKey);
+    if (IsWindow(bar)) {
+        menuOpen = false;
+        SetPressed(noKey);
     }
 }
 
 void MenuBar::Paint(handheld::Surface& surface) const
 {
     handheld::PaintBar(surface, surface.Client());
-    for (int key = 0; key < KeyCount; ++key) {
+    for (int key = 0; key < keyCount; ++key) {
         const RECT rect = KeyRect(key);
-        if (key == m_pressed) {
+        if (key == pressed) {
             handheld::PaintPressedKey(surface, rect);
         }
-        handheld::PaintKeyText(surface, rect, m_texts[static_cast<size_t>(key)], m_font, IsUsable(key));
+        handheld::PaintKeyText(surface, rect, texts[static_cast<size_t>(key)], font, IsUsable(key));
     }
-    if (!m_resource.buttons.empty()) {
+    if (!resource.buttons.empty()) {
         handheld::PaintKeyDivider(surface, surface.Client());
     }
 }
@@ -180,9 +188,10 @@ void MenuBar::Paint(handheld::Surface& surface) const
 LRESULT CALLBACK MenuBar::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     auto* bar = handheld::ObjectOf<MenuBar>(window, message, lParam);
-    if (!bar)
+    if (!bar) {
         return DefWindowProcW(window, message, wParam, lParam);
-    bar->m_window = window;
+    }
+    bar->window = window;
     if (message == WM_NCDESTROY) {
         handheld::ForgetObject(window);
         delete bar;
@@ -197,37 +206,39 @@ LRESULT MenuBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
     case WM_PAINT: {
-        handheld::Surface surface(m_window);
+        handheld::Surface surface(window);
         Paint(surface);
         return 0;
     }
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-        if (const int key = KeyAt(lParam); IsUsable(key) && IsWindowEnabled(m_owner)) {
-            SetCapture(m_window);
+        if (const int key = KeyAt(lParam); IsUsable(key) && IsWindowEnabled(owner)) {
+            SetCapture(window);
             SetPressed(key);
         }
         return 0;
     case WM_LBUTTONUP:
-        if (const int key = m_pressed; GetCapture() == m_window) {
+        if (const int key = pressed; GetCapture() == window) {
             ReleaseCapture();
-            SetPressed(NoKey);
-            if (key == KeyAt(lParam))
+            SetPressed(noKey);
+            if (key == KeyAt(lParam)) {
                 Press(key);
+            }
         }
         return 0;
     case WM_MOUSEMOVE:
         // The stylus was lifted where nobody told the bar.
-        if (GetCapture() == m_window && (wParam & MK_LBUTTON) == 0)
+        if (GetCapture() == window && (wParam & MK_LBUTTON) == 0) {
             ReleaseCapture();
+        }
         return 0;
     case WM_CAPTURECHANGED:
-        SetPressed(NoKey);
+        SetPressed(noKey);
         return 0;
     case handheld::WM_PRESS_SOFT_KEY:
         Press(static_cast<int>(wParam));
         return 0;
     default:
-        return DefWindowProcW(m_window, message, wParam, lParam);
+        return DefWindowProcW(window, message, wParam, lParam);
     }
 }

@@ -20,8 +20,8 @@ class MenuBar
     MenuBar& operator=(const MenuBar&) = delete;
 
   private:
-    static constexpr int KeyCount = 2;
-    static constexpr int NoKey = -1;
+    static constexpr int keyCount = 2;
+    static constexpr int noKey = -1;
 
     MenuBar() = default;
     ~MenuBar();
@@ -39,12 +39,12 @@ class MenuBar
     void Paint(handheld::Surface& surface) const;
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
-    HWND m_window = nullptr;
-    HWND m_owner = nullptr;
-    handheld::MenuBarResource m_resource;
-    std::array<std::wstring, KeyCount> m_texts;
-    HMENU m_menu = nullptr; // the bar's menu with a pop-up for each key that has one; destroyed at the end
-    HFONT m_font = nullptr; // deleted at the end
-    int m_pressed = NoKey;
-    bool m_menuOpen = false;
+    HWND window = nullptr;
+    HWND owner = nullptr;
+    handheld::MenuBarResource resource;
+    std::array<std::wstring, keyCount> texts;
+    HMENU menu = nullptr; // the bar's menu with a pop-up for each key that has one; destroyed at the end
+    HFONT font = nullptr; // deleted at the end
+    int pressed = noKey;
+    bool menuOpen = false;
 };

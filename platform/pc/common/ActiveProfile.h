@@ -5,9 +5,9 @@
 
 namespace handheld {
 
-inline constexpr wchar_t ProfileVariable[] = L"HANDHELD_PROFILE";
-inline constexpr wchar_t ProfileKey[] = L"Software\\Quorvane Handheld";
-inline constexpr wchar_t ProfileValue[] = L"Profile";
+inline constexpr wchar_t profileVariable[] = L"HANDHELD_PROFILE";
+inline constexpr wchar_t profileKey[] = L"Software\\Quorvane Handheld";
+inline constexpr wchar_t profileValue[] = L"Profile";
 
 // Read at the first call, then kept: the environment variable's file, else the one that the running handheld
 // has named in the registry, else profiles\pocketpc.ini beside this module, else the defaults of a Pocket PC.

@@ -8,11 +8,10 @@
 #include <string>
 
 namespace handheld {
-namespace {
 
-constexpr int MarginAt96 = 8;
+static constexpr int marginAt96 = 8;
 
-SIZE SizeOf(HWND window)
+static SIZE SizeOf(HWND window)
 {
     RECT rect = {};
     GetWindowRect(window, &rect);
@@ -20,7 +19,7 @@ SIZE SizeOf(HWND window)
 }
 
 // The height of a control's text in lines of this width.
-int TextHeight(HWND control, int width)
+static int TextHeight(HWND control, int width)
 {
     std::wstring text(static_cast<size_t>(GetWindowTextLengthW(control)) + 1, L'\0');
     GetWindowTextW(control, text.data(), static_cast<int>(text.size()));
@@ -29,18 +28,20 @@ int TextHeight(HWND control, int width)
     const HGDIOBJ before = font ? SelectObject(screen, font) : nullptr;
     RECT rect = {0, 0, width, 0};
     DrawTextW(screen, text.c_str(), -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX | DT_EXPANDTABS);
-    if (before)
+    if (before) {
         SelectObject(screen, before);
+    }
     ReleaseDC(control, screen);
     return rect.bottom;
 }
 
 // A row in the middle of the width; returns its height.
-int PlaceButtons(const std::vector<HWND>& buttons, int y, int width, int gap)
+static int PlaceButtons(const std::vector<HWND>& buttons, int y, int width, int gap)
 {
     const int count = static_cast<int>(buttons.size());
-    if (count == 0)
+    if (count == 0) {
         return 0;
+    }
     const int room = (width - gap * (count + 1)) / count;
     int total = gap * (count - 1);
     int height = 0;
@@ -58,21 +59,20 @@ int PlaceButtons(const std::vector<HWND>& buttons, int y, int width, int gap)
     return height;
 }
 
-} // namespace
-
 void FitIntoScreen(HWND box)
 {
     const RECT screen = ProgramRect();
     const int screenWidth = screen.right - screen.left;
     const SIZE whole = SizeOf(box);
-    if (whole.cx <= screenWidth)
+    if (whole.cx <= screenWidth) {
         return;
+    }
     RECT client = {};
     GetClientRect(box, &client);
     const int frameWidth = whole.cx - client.right;
     const int frameHeight = whole.cy - client.bottom;
     const int width = screenWidth - frameWidth;
-    const int margin = Scaled(MarginAt96);
+    const int margin = Scaled(marginAt96);
 
     const BoxParts parts(box);
     int left = margin;

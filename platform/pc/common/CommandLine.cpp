@@ -2,35 +2,35 @@
 #include "platform/pc/common/CommandLine.h"
 
 namespace handheld {
-namespace {
 
-constexpr wchar_t Blanks[] = L" \t";
+static constexpr wchar_t blanks[] = L" \t";
 
-std::wstring_view WithoutProgram(std::wstring_view line)
+static std::wstring_view WithoutProgram(std::wstring_view line)
 {
     size_t end = 0;
     if (!line.empty() && line.front() == L'"') {
         end = line.find(L'"', 1);
         end = end == std::wstring_view::npos ? line.size() : end + 1;
-    } else
-        end = line.find_first_of(Blanks);
-    if (end == std::wstring_view::npos)
+    } else {
+        end = line.find_first_of(blanks);
+    }
+    if (end == std::wstring_view::npos) {
         return {};
+    }
     line.remove_prefix(end);
-    const size_t tail = line.find_first_not_of(Blanks);
+    const size_t tail = line.find_first_not_of(blanks);
     return tail == std::wstring_view::npos ? std::wstring_view() : line.substr(tail);
 }
-
-} // namespace
 
 std::wstring CommandTail(std::wstring_view commandLine)
 {
     std::wstring_view tail = WithoutProgram(commandLine);
-    const size_t last = tail.find_last_not_of(Blanks);
+    const size_t last = tail.find_last_not_of(blanks);
     const size_t length = last == std::wstring_view::npos ? 0 : last + 1;
     const bool quotedAsAWhole = length >= 2 && tail.front() == L'"' && tail.find(L'"', 1) == length - 1;
-    if (quotedAsAWhole)
+    if (quotedAsAWhole) {
         tail = tail.substr(1, length - 2);
+    }
     return std::wstring(tail);
 }
 

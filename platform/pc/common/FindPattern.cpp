@@ -4,9 +4,8 @@
 #include <windows.h>
 
 namespace handheld {
-namespace {
 
-bool SameLetter(wchar_t a, wchar_t b)
+static bool SameLetter(wchar_t a, wchar_t b)
 {
     const auto lower = [](wchar_t c) {
         return static_cast<wchar_t>(
@@ -15,12 +14,11 @@ bool SameLetter(wchar_t a, wchar_t b)
     return a == b || lower(a) == lower(b);
 }
 
-} // namespace
-
 bool MatchesPattern(std::wstring_view name, std::wstring_view pattern)
 {
-    if (pattern == L"*.*")
+    if (pattern == L"*.*") {
         return true;
+    }
     // On a mismatch the last '*' takes one character more; earlier ones never need to be tried again.
     size_t n = 0;
     size_t p = 0;
@@ -36,11 +34,13 @@ bool MatchesPattern(std::wstring_view name, std::wstring_view pattern)
         } else if (starAt != std::wstring_view::npos) {
             p = starAt + 1;
             n = ++starEnd;
-        } else
+        } else {
             return false;
+        }
     }
-    while (p < pattern.size() && pattern[p] == L'*')
+    while (p < pattern.size() && pattern[p] == L'*') {
         ++p;
+    }
     return p == pattern.size();
 }
 

@@ -10,8 +10,8 @@ namespace handheld {
 // One soft key.
 struct SoftKeyButton
 {
-    static constexpr uint16_t NoMenu = 0xFFFF;
-    static constexpr uint16_t Enabled = 0x0004;
+    static constexpr uint16_t noMenu = 0xFFFF;
+    static constexpr uint16_t enabled = 0x0004;
 
     uint16_t image;
     uint16_t command;

@@ -5,32 +5,33 @@
 #include <optional>
 
 namespace handheld {
-namespace {
 
-std::wstring_view Trimmed(std::wstring_view text)
+static std::wstring_view Trimmed(std::wstring_view text)
 {
     const wchar_t* blanks = L" \t\r\n\xFEFF";
     const size_t first = text.find_first_not_of(blanks);
-    if (first == std::wstring_view::npos)
+    if (first == std::wstring_view::npos) {
         return {};
+    }
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-wchar_t LowerAscii(wchar_t c)
+static wchar_t LowerAscii(wchar_t c)
 {
     return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + (L'a' - L'A')) : c;
 }
 
-std::wstring Lower(std::wstring_view text)
+static std::wstring Lower(std::wstring_view text)
 {
     std::wstring lower(text);
-    for (wchar_t& c : lower)
+    for (wchar_t& c : lower) {
         c = LowerAscii(c);
+    }
     return lower;
 }
 
 // Cuts the text before the separator off its front; the last piece leaves nothing and clears `more`.
-std::wstring_view NextPiece(std::wstring_view& rest, wchar_t separator, bool& more)
+static std::wstring_view NextPiece(std::wstring_view& rest, wchar_t separator, bool& more)
 {
     const size_t end = rest.find(separator);
     const std::wstring_view piece = rest.substr(0, end);
@@ -39,51 +40,58 @@ std::wstring_view NextPiece(std::wstring_view& rest, wchar_t separator, bool& mo
     return Trimmed(piece);
 }
 
-std::optional<unsigned> Number(std::wstring_view text)
+static std::optional<unsigned> Number(std::wstring_view text)
 {
     unsigned long long value = 0;
-    if (text.empty())
+    if (text.empty()) {
         return std::nullopt;
+    }
     for (const wchar_t c : text) {
-        if (c < L'0' || c > L'9')
+        if (c < L'0' || c > L'9') {
             return std::nullopt;
+        }
         value = value * 10 + static_cast<unsigned>(c - L'0');
-        if (value > std::numeric_limits<unsigned>::max())
+        if (value > std::numeric_limits<unsigned>::max()) {
             return std::nullopt;
+        }
     }
     return static_cast<unsigned>(value);
 }
 
-void SetNumber(int& field, std::wstring_view text, unsigned lowest, unsigned highest)
+static void SetNumber(int& field, std::wstring_view text, unsigned lowest, unsigned highest)
 {
     const std::optional<unsigned> value = Number(text);
-    if (value && *value >= lowest && *value <= highest)
+    if (value && *value >= lowest && *value <= highest) {
         field = static_cast<int>(*value);
+    }
 }
 
-void SetHandheldKey(Profile& profile, const std::wstring& key, std::wstring_view value)
+static void SetHandheldKey(Profile& profile, const std::wstring& key, std::wstring_view value)
 {
     if (key == L"platform") {
-        if (!value.empty())
+        if (!value.empty()) {
             profile.platformName = value;
-    } else if (key == L"width")
+        }
+    } else if (key == L"width") {
         SetNumber(profile.width, value, 96, 4096);
-    else if (key == L"height")
+    } else if (key == L"height") {
         SetNumber(profile.height, value, 96, 4096);
-    else if (key == L"dpi")
+    } else if (key == L"dpi") {
         SetNumber(profile.dpi, value, 72, 480);
-    else if (key == L"tier")
+    } else if (key == L"tier") {
         SetNumber(profile.securityTier, value, 1, 2);
-    else if (key == L"cards") {
+    } else if (key == L"cards") {
         profile.cards.clear();
-        for (bool more = true; more;)
-            if (const std::wstring_view card = NextPiece(value, L',', more); !card.empty())
+        for (bool more = true; more;) {
+            if (const std::wstring_view card = NextPiece(value, L',', more); !card.empty()) {
                 profile.cards.emplace_back(card);
+            }
+        }
     }
 }
 
 // "100, 200 | 300": two heaps. Any malformed number makes the whole line count for nothing.
-void AddHeapScript(Profile& profile, const std::wstring& program, std::wstring_view value)
+static void AddHeapScript(Profile& profile, const std::wstring& program, std::wstring_view value)
 {
     HeapScript script{program, {}};
     for (bool moreHeaps = true; moreHeaps;) {
@@ -91,15 +99,14 @@ void AddHeapScript(Profile& profile, const std::wstring& program, std::wstring_v
         std::vector<unsigned>& blocks = script.heaps.emplace_back();
         for (bool more = !heap.empty(); more;) {
             const std::optional<unsigned> size = Number(NextPiece(heap, L',', more));
-            if (!size)
+            if (!size) {
                 return;
+            }
             blocks.push_back(*size);
         }
     }
     profile.heapScripts.push_back(std::move(script));
 }
-
-} // namespace
 
 bool Profile::IsSmartphone() const
 {
@@ -108,14 +115,18 @@ bool Profile::IsSmartphone() const
 
 const HeapScript* Profile::FindHeapScript(std::wstring_view program) const
 {
-    if (heapScripts.empty())
+    if (heapScripts.empty()) {
         return nullptr;
-    if (const size_t slash = program.find_last_of(L"\\/"); slash != std::wstring_view::npos)
+    }
+    if (const size_t slash = program.find_last_of(L"\\/"); slash != std::wstring_view::npos) {
         program.remove_prefix(slash + 1);
+    }
     const std::wstring name = Lower(program);
-    for (const HeapScript& script : heapScripts)
-        if (script.program == name)
+    for (const HeapScript& script : heapScripts) {
+        if (script.program == name) {
             return &script;
+        }
+    }
     return nullptr;
 }
 
@@ -125,21 +136,24 @@ Profile ParseProfile(std::wstring_view text)
     std::wstring section;
     for (bool more = true; more;) {
         const std::wstring_view line = NextPiece(text, L'\n', more);
-        if (line.empty() || line.front() == L';' || line.front() == L'#')
+        if (line.empty() || line.front() == L';' || line.front() == L'#') {
             continue;
+        }
         if (line.front() == L'[' && line.back() == L']') {
             section = Lower(Trimmed(line.substr(1, line.size() - 2)));
             continue;
         }
         const size_t equals = line.find(L'=');
-        if (equals == std::wstring_view::npos)
+        if (equals == std::wstring_view::npos) {
             continue;
+        }
         const std::wstring key = Lower(Trimmed(line.substr(0, equals)));
         const std::wstring_view value = Trimmed(line.substr(equals + 1));
-        if (section == L"handheld")
+        if (section == L"handheld") {
             SetHandheldKey(profile, key, value);
-        else if (section == L"heap")
+        } else if (section == L"heap") {
             AddHeapScript(profile, key, value);
+        }
     }
     return profile;
 }

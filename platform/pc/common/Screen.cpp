@@ -4,16 +4,15 @@
 #include "platform/pc/common/ActiveProfile.h"
 
 namespace handheld {
-namespace {
 
-constexpr int BarHeightAt96 = 26;
+static constexpr int barHeightAt96 = 26;
 
 // The face that has the widths of the device's font and a visible bold; Wine's own Tahoma has no bold at
 // large sizes.
-constexpr wchar_t PreferredFace[] = L"DejaVu Sans Condensed";
-constexpr wchar_t FallbackFace[] = L"Tahoma";
+static constexpr wchar_t preferredFace[] = L"DejaVu Sans Condensed";
+static constexpr wchar_t fallbackFace[] = L"Tahoma";
 
-bool HasFace(const wchar_t* face)
+static bool HasFace(const wchar_t* face)
 {
     LOGFONTW wanted = {};
     wanted.lfCharSet = DEFAULT_CHARSET;
@@ -29,8 +28,6 @@ bool HasFace(const wchar_t* face)
     return has;
 }
 
-} // namespace
-
 int Scaled(int n)
 {
     return (n * ActiveProfile().dpi + 48) / 96;
@@ -38,7 +35,7 @@ int Scaled(int n)
 
 int BarHeight()
 {
-    return Scaled(BarHeightAt96);
+    return Scaled(barHeightAt96);
 }
 
 RECT ScreenRect()
@@ -56,13 +53,13 @@ RECT ProgramRect()
 
 HFONT CreateScreenFont(int points, int weight)
 {
-    static const bool preferred = HasFace(PreferredFace);
+    static const bool preferred = HasFace(preferredFace);
     LOGFONTW font = {};
     font.lfHeight = -MulDiv(points, ActiveProfile().dpi, 72);
     font.lfWeight = weight;
     font.lfCharSet = DEFAULT_CHARSET;
     font.lfQuality = CLEARTYPE_QUALITY;
-    lstrcpynW(font.lfFaceName, preferred ? PreferredFace : FallbackFace, LF_FACESIZE);
+    lstrcpynW(font.lfFaceName, preferred ? preferredFace : fallbackFace, LF_FACESIZE);
     return CreateFontIndirectW(&font);
 }
 

@@ -2,6 +2,7 @@
 #include "platform/pc/common/SoftKeys.h"
 
 namespace handheld {
+
 namespace {
 
 struct OpenMenu
@@ -11,33 +12,37 @@ struct OpenMenu
     HHOOK hook = nullptr;
 };
 
-thread_local OpenMenu* s_openMenu = nullptr;
+} // namespace
+
+static thread_local OpenMenu* openMenu = nullptr;
 
 // Of a key that is held down.
-bool IsRepeated(const MSG& keyDown)
+static bool IsRepeated(const MSG& keyDown)
 {
     return (keyDown.lParam & (1 << 30)) != 0;
 }
 
 // A menu runs its own message loop, which asks this filter about every message first.
-LRESULT CALLBACK FilterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
+static LRESULT CALLBACK FilterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
 {
-    if (code == MSGF_MENU && s_openMenu) {
+    if (code == MSGF_MENU && openMenu) {
         const auto& message = *reinterpret_cast<const MSG*>(lParam);
         const int key = SoftKeyIndex(message.wParam);
         if (key >= 0 && message.message == WM_KEYDOWN && IsRepeated(message)) {
             return TRUE;
         }
         if (key >= 0 && message.message == WM_KEYDOWN) {
-            if (key != s_openMenu->ownKey.index)
-                s_openMenu->pressedKey = key;
+            if (key != openMenu->ownKey.index) {
+                openMenu->pressedKey = key;
+            }
             EndMenu();
             return TRUE;
         }
-        if (key >= 0 && message.message == WM_KEYUP)
+        if (key >= 0 && message.message == WM_KEYUP) {
             return TRUE;
+        }
         const bool tap = message.message == WM_LBUTTONDOWN || message.message == WM_LBUTTONDBLCLK;
-        if (tap && PtInRect(&s_openMenu->ownKey.place, message.pt)) {
+        if (tap && PtInRect(&openMenu->ownKey.place, message.pt)) {
             EndMenu();
             return TRUE;
         }
@@ -45,13 +50,13 @@ LRESULT CALLBACK FilterMenuMessage(int code, WPARAM wParam, LPARAM lParam)
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-} // namespace
-
 HWND FindMenuBar(HWND owner)
 {
-    for (HWND bar = nullptr; (bar = FindWindowExW(nullptr, bar, MenuBarClass, nullptr)) != nullptr;)
-        if (GetWindow(bar, GW_OWNER) == owner)
+    for (HWND bar = nullptr; (bar = FindWindowExW(nullptr, bar, menuBarClass, nullptr)) != nullptr;) {
+        if (GetWindow(bar, GW_OWNER) == owner) {
             return bar;
+        }
+    }
     return nullptr;
 }
 
@@ -62,16 +67,20 @@ int SoftKeyIndex(WPARAM virtualKey)
 
 bool HandleSoftKey(const MSG& message)
 {
-    if (message.message != WM_KEYDOWN && message.message != WM_KEYUP)
+    if (message.message != WM_KEYDOWN && message.message != WM_KEYUP) {
         return false;
+    }
     const int key = SoftKeyIndex(message.wParam);
-    if (key < 0)
+    if (key < 0) {
         return false;
+    }
     const HWND bar = FindMenuBar(GetActiveWindow());
-    if (!bar)
+    if (!bar) {
         return false;
-    if (message.message == WM_KEYDOWN && !IsRepeated(message))
+    }
+    if (message.message == WM_KEYDOWN && !IsRepeated(message)) {
         SendMessageW(bar, WM_PRESS_SOFT_KEY, static_cast<WPARAM>(key), 0);
+    }
     return true;
 }
 
@@ -81,17 +90,20 @@ int TrackMenu(HMENU menu, UINT flags, int x, int y, HWND owner, const TPMPARAMS*
     OpenMenu open;
     open.ownKey = ownKey;
     open.hook = SetWindowsHookExW(WH_MSGFILTER, FilterMenuMessage, nullptr, GetCurrentThreadId());
-    OpenMenu* const outer = s_openMenu;
-    s_openMenu = &open;
+    OpenMenu* const outer = openMenu;
+    openMenu = &open;
     TPMPARAMS copy = {};
-    if (parameters)
+    if (parameters) {
         copy = *parameters;
+    }
     const int result = TrackPopupMenuEx(menu, flags, x, y, owner, parameters ? &copy : nullptr);
-    s_openMenu = outer;
-    if (open.hook)
+    openMenu = outer;
+    if (open.hook) {
         UnhookWindowsHookEx(open.hook);
-    if (open.pressedKey >= 0)
+    }
+    if (open.pressedKey >= 0) {
         PostMessageW(owner, WM_KEYDOWN, open.pressedKey == 0 ? VK_F1 : VK_F2, 1);
+    }
     return result;
 }
 

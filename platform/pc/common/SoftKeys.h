@@ -5,7 +5,7 @@
 
 namespace handheld {
 
-inline constexpr wchar_t MenuBarClass[] = L"menu_worker";
+inline constexpr wchar_t menuBarClass[] = L"menu_worker";
 
 // To a menu bar: press the soft key wParam, 0 left and 1 right. Sent, never posted.
 inline constexpr UINT WM_PRESS_SOFT_KEY = WM_APP + 1;

@@ -12,7 +12,7 @@
 template <typename Object, typename Interface, const IID& interfaceOfObject>
 class ComObject : public Interface
 {
-    std::atomic<ULONG> m_references = 1;
+    std::atomic<ULONG> references = 1;
 
   protected:
     ComObject() = default;
@@ -24,23 +24,26 @@ class ComObject : public Interface
 
     HRESULT STDMETHODCALLTYPE QueryInterface(const IID& interfaceId, void** object) override
     {
-        if (!object)
+        if (!object) {
             return E_POINTER;
+        }
         *object = nullptr;
-        if (interfaceId != IID_IUnknown && interfaceId != interfaceOfObject)
+        if (interfaceId != IID_IUnknown && interfaceId != interfaceOfObject) {
             return E_NOINTERFACE;
+        }
         AddRef();
         *object = static_cast<Interface*>(this);
         return S_OK;
     }
 
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
 
     ULONG STDMETHODCALLTYPE Release() override
     {
-        const ULONG left = --m_references;
-        if (left == 0)
+        const ULONG left = --references;
+        if (left == 0) {
             delete static_cast<Object*>(this);
+        }
         return left;
     }
 };

@@ -3,12 +3,8 @@
 
 #include <windows.h>
 
-namespace {
-
-constexpr UINT GetPlatformType = 257;
-constexpr DWORD WindowsCe = 3;
-
-} // namespace
+static constexpr UINT getPlatformType = 257;
+static constexpr DWORD windowsCe = 3;
 
 extern "C" BOOL WINAPI ce_GetVersionExW(OSVERSIONINFOW* version)
 {
@@ -19,7 +15,7 @@ extern "C" BOOL WINAPI ce_GetVersionExW(OSVERSIONINFOW* version)
     version->dwMajorVersion = 5;
     version->dwMinorVersion = 1;
     version->dwBuildNumber = 195;
-    version->dwPlatformId = WindowsCe;
+    version->dwPlatformId = windowsCe;
     version->szCSDVersion[0] = L'\0';
     return TRUE;
 }
@@ -27,8 +23,9 @@ extern "C" BOOL WINAPI ce_GetVersionExW(OSVERSIONINFOW* version)
 // The size of the platform's name is counted in characters, with its end.
 extern "C" BOOL WINAPI ce_SystemParametersInfoW(UINT action, UINT size, void* buffer, UINT flags)
 {
-    if (action != GetPlatformType)
+    if (action != getPlatformType) {
         return SystemParametersInfoW(action, size, buffer, flags);
+    }
     const std::wstring& name = handheld::ActiveProfile().platformName;
     if (!buffer || size <= name.size()) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);

@@ -3,15 +3,15 @@
 
 #include "platform/pc/common/SoftKeys.h"
 
-namespace {
+static constexpr UINT keepPlace = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
 
-constexpr UINT KeepPlace = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
+namespace {
 
 // The visible top-level windows, front-most first. A fixed number is enough: what lies deeper is covered.
 struct WindowStack
 {
-    static constexpr int Capacity = 128;
-    HWND windows[Capacity];
+    static constexpr int capacity = 128;
+    HWND windows[capacity];
     int count = 0;
 
     WindowStack() { EnumWindows(Add, reinterpret_cast<LPARAM>(this)); }
@@ -19,34 +19,39 @@ struct WindowStack
     static BOOL CALLBACK Add(HWND window, LPARAM parameter)
     {
         auto& stack = *reinterpret_cast<WindowStack*>(parameter);
-        if (IsWindowVisible(window))
+        if (IsWindowVisible(window)) {
             stack.windows[stack.count++] = window;
-        return stack.count < Capacity;
+        }
+        return stack.count < capacity;
     }
 };
 
-bool IsOwnedBy(HWND window, HWND owner)
+} // namespace
+
+static bool IsOwnedBy(HWND window, HWND owner)
 {
-    while ((window = GetWindow(window, GW_OWNER)) != nullptr)
-        if (window == owner)
+    while ((window = GetWindow(window, GW_OWNER)) != nullptr) {
+        if (window == owner) {
             return true;
+        }
+    }
     return false;
 }
 
-bool CanBeForeground(HWND window)
+static bool CanBeForeground(HWND window)
 {
     const LONG_PTR exStyle = GetWindowLongPtrW(window, GWL_EXSTYLE);
     return IsWindowEnabled(window) && (exStyle & (WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW)) == 0;
 }
 
-bool IsMenuBar(HWND window)
+static bool IsMenuBar(HWND window)
 {
     wchar_t name[32];
-    return GetClassNameW(window, name, 32) > 0 && lstrcmpW(name, handheld::MenuBarClass) == 0;
+    return GetClassNameW(window, name, 32) > 0 && lstrcmpW(name, handheld::menuBarClass) == 0;
 }
 
 // Another thread's window may belong to a program that hangs: nothing waits for it.
-BOOL Show(HWND window, int command)
+static BOOL Show(HWND window, int command)
 {
     if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId()) {
         return ShowWindow(window, command);
@@ -58,7 +63,7 @@ BOOL Show(HWND window, int command)
 
 // A program that is minimised as it starts may not have been told yet that it is in front; told later, it
 // would come to the front again.
-void DeliverPending()
+static void DeliverPending()
 {
     MSG unused;
     PeekMessageW(&unused, nullptr, 0, 0, PM_NOREMOVE);
@@ -66,34 +71,39 @@ void DeliverPending()
 
 // A disabled window waits for one that it owns, a dialog or a message box: that one is what the user wants to
 // see.
-HWND WindowToActivate(const WindowStack& stack, HWND window)
+static HWND WindowToActivate(const WindowStack& stack, HWND window)
 {
-    if (IsWindowEnabled(window))
+    if (IsWindowEnabled(window)) {
         return window;
-    for (int i = 0; i < stack.count; ++i)
-        if (IsOwnedBy(stack.windows[i], window) && CanBeForeground(stack.windows[i]))
+    }
+    for (int i = 0; i < stack.count; ++i) {
+        if (IsOwnedBy(stack.windows[i], window) && CanBeForeground(stack.windows[i])) {
             return stack.windows[i];
+        }
+    }
     return window;
 }
 
-} // namespace
-
 BOOL BringToForeground(HWND window)
 {
-    if (!IsWindow(window))
+    if (!IsWindow(window)) {
         return FALSE;
+    }
     DWORD process = 0;
     GetWindowThreadProcessId(window, &process);
     AllowSetForegroundWindow(process);
     // Asynchronous throughout: the other program may hang.
-    if (IsIconic(window))
+    if (IsIconic(window)) {
         ShowWindowAsync(window, SW_RESTORE);
+    }
     const WindowStack stack;
-    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, KeepPlace | SWP_ASYNCWINDOWPOS);
+    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, keepPlace | SWP_ASYNCWINDOWPOS);
     // The stack is front-most first, so raising from its end keeps the pop-ups' order among themselves.
-    for (int i = stack.count - 1; i >= 0; --i)
-        if (IsOwnedBy(stack.windows[i], window))
-            SetWindowPos(stack.windows[i], HWND_TOP, 0, 0, 0, 0, KeepPlace | SWP_ASYNCWINDOWPOS);
+    for (int i = stack.count - 1; i >= 0; --i) {
+        if (IsOwnedBy(stack.windows[i], window)) {
+            SetWindowPos(stack.windows[i], HWND_TOP, 0, 0, 0, 0, keepPlace | SWP_ASYNCWINDOWPOS);
+        }
+    }
     return SetForegroundWindow(WindowToActivate(stack, window));
 }
 
@@ -113,12 +123,12 @@ BOOL SendToBackground(HWND window)
         if (IsMenuBar(other) && IsOwnedBy(other, window)) {
             Show(other, SW_HIDE);
         } else if (IsOwnedBy(other, window)) {
-            SetWindowPos(other, HWND_BOTTOM, 0, 0, 0, 0, KeepPlace | SWP_ASYNCWINDOWPOS);
+            SetWindowPos(other, HWND_BOTTOM, 0, 0, 0, 0, keepPlace | SWP_ASYNCWINDOWPOS);
         } else if (!next && other != window && CanBeForeground(other) && !IsHungAppWindow(other)) {
             next = other;
         }
     }
-    SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, KeepPlace | SWP_ASYNCWINDOWPOS);
+    SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, keepPlace | SWP_ASYNCWINDOWPOS);
     if (next) {
         SetForegroundWindow(next);
     } else {
@@ -136,14 +146,17 @@ extern "C" BOOL WINAPI ce_SetForegroundWindow(HWND window)
 extern "C" BOOL WINAPI ce_ShowWindow(HWND window, int command)
 {
     const bool topLevel = (GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD) == 0;
-    if (!topLevel)
+    if (!topLevel) {
         return Show(window, command);
-    if (command == SW_MINIMIZE)
+    }
+    if (command == SW_MINIMIZE) {
         return SendToBackground(window);
+    }
     const BOOL wasVisible = Show(window, command);
     const bool activates = command == SW_SHOWNORMAL || command == SW_SHOW || command == SW_RESTORE;
     // A minimised window is still visible here, so showing it again would do nothing.
-    if (wasVisible && activates && GetForegroundWindow() != window)
+    if (wasVisible && activates && GetForegroundWindow() != window) {
         BringToForeground(window);
+    }
     return wasVisible;
 }

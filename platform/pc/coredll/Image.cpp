@@ -17,8 +17,9 @@ struct Holder
     Holder& operator=(const Holder&) = delete;
     ~Holder()
     {
-        if (object)
+        if (object) {
             object->Release();
+        }
     }
     T* operator->() const { return object; }
     T* Detach()
@@ -37,46 +38,51 @@ class Canvas
     {
         BITMAPINFO info = {};
         info.bmiHeader = {sizeof(BITMAPINFOHEADER), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        m_dc = CreateCompatibleDC(like);
-        m_bitmap = CreateDIBSection(like, &info, DIB_RGB_COLORS, &m_bits, nullptr, 0);
-        if (m_dc && m_bitmap)
-            m_previous = SelectObject(m_dc, m_bitmap);
+        dc = CreateCompatibleDC(like);
+        bitmap = CreateDIBSection(like, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        if (dc && bitmap) {
+            previous = SelectObject(dc, bitmap);
+        }
     }
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
     ~Canvas()
     {
-        if (m_previous)
-            SelectObject(m_dc, m_previous);
-        if (m_bitmap)
-            DeleteObject(m_bitmap);
-        if (m_dc)
-            DeleteDC(m_dc);
+        if (previous) {
+            SelectObject(dc, previous);
+        }
+        if (bitmap) {
+            DeleteObject(bitmap);
+        }
+        if (dc) {
+            DeleteDC(dc);
+        }
     }
-    bool Exists() const { return m_previous != nullptr; }
-    HDC Dc() const { return m_dc; }
-    BYTE* Bits() const { return static_cast<BYTE*>(m_bits); }
+    bool Exists() const { return previous != nullptr; }
+    HDC Dc() const { return dc; }
+    BYTE* Bits() const { return static_cast<BYTE*>(bits); }
 
   private:
-    HDC m_dc = nullptr;
-    HBITMAP m_bitmap = nullptr;
-    HGDIOBJ m_previous = nullptr;
-    void* m_bits = nullptr;
+    HDC dc = nullptr;
+    HBITMAP bitmap = nullptr;
+    HGDIOBJ previous = nullptr;
+    void* bits = nullptr;
 };
 
 class Image final : public ComObject<Image, IImage, IID_IImage>
 {
   public:
-    Image(IWICBitmapSource* pixels, const void* buffer, BufferDisposalFlag disposal)
-        : m_pixels(pixels), m_buffer(buffer), m_disposal(disposal)
+    Image(IWICBitmapSource* source, const void* encoded, BufferDisposalFlag ofBuffer)
+        : pixels(source), buffer(encoded), disposal(ofBuffer)
     {}
 
     HRESULT STDMETHODCALLTYPE GetPhysicalDimension(SIZE* size) override
     {
         ImageInfo info;
         const HRESULT result = GetImageInfo(&info);
-        if (FAILED(result) || info.Xdpi <= 0 || info.Ydpi <= 0)
+        if (FAILED(result) || info.Xdpi <= 0 || info.Ydpi <= 0) {
             return FAILED(result) ? result : E_FAIL;
+        }
         size->cx = static_cast<LONG>(info.Width * 2540.0 / info.Xdpi + 0.5);
         size->cy = static_cast<LONG>(info.Height * 2540.0 / info.Ydpi + 0.5);
         return S_OK;
@@ -85,12 +91,13 @@ class Image final : public ComObject<Image, IImage, IID_IImage>
     HRESULT STDMETHODCALLTYPE GetImageInfo(ImageInfo* info) override
     {
         *info = {};
-        const HRESULT result = m_pixels->GetSize(&info->Width, &info->Height);
-        if (FAILED(result))
+        const HRESULT result = pixels->GetSize(&info->Width, &info->Height);
+        if (FAILED(result)) {
             return result;
+        }
         info->TileWidth = info->Width;
         info->TileHeight = info->Height;
-        return m_pixels->GetResolution(&info->Xdpi, &info->Ydpi);
+        return pixels->GetResolution(&info->Xdpi, &info->Ydpi);
     }
 
     HRESULT STDMETHODCALLTYPE SetImageFlags(UINT) override { return S_OK; }
@@ -101,18 +108,22 @@ class Image final : public ComObject<Image, IImage, IID_IImage>
     {
         UINT width = 0;
         UINT height = 0;
-        HRESULT result = m_pixels->GetSize(&width, &height);
-        if (FAILED(result) || !targetRect)
+        HRESULT result = pixels->GetSize(&width, &height);
+        if (FAILED(result) || !targetRect) {
             return FAILED(result) ? result : E_INVALIDARG;
+        }
         const Canvas canvas(target, static_cast<int>(width), static_cast<int>(height));
-        if (!canvas.Exists())
+        if (!canvas.Exists()) {
             return E_OUTOFMEMORY;
-        result = m_pixels->CopyPixels(nullptr, width * 4, width * height * 4, canvas.Bits());
-        if (FAILED(result))
+        }
+        result = pixels->CopyPixels(nullptr, width * 4, width * height * 4, canvas.Bits());
+        if (FAILED(result)) {
             return result;
+        }
         RECT source = {0, 0, static_cast<LONG>(width), static_cast<LONG>(height)};
-        if (sourceRect)
+        if (sourceRect) {
             source = *sourceRect;
+        }
         const BLENDFUNCTION blend = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
         const BOOL drawn =
             GdiAlphaBlend(target, targetRect->left, targetRect->top, targetRect->right - targetRect->left,
@@ -127,44 +138,51 @@ class Image final : public ComObject<Image, IImage, IID_IImage>
     ~Image()
     {
         // The decoder reads from the buffer, so the buffer goes last.
-        m_pixels->Release();
-        if (m_disposal == BufferDisposalFlagGlobalFree)
-            LocalFree(const_cast<void*>(m_buffer));
-        else if (m_disposal == BufferDisposalFlagUnmapView)
-            UnmapViewOfFile(m_buffer);
+        pixels->Release();
+        if (disposal == BufferDisposalFlagGlobalFree) {
+            LocalFree(const_cast<void*>(buffer));
+        } else if (disposal == BufferDisposalFlagUnmapView) {
+            UnmapViewOfFile(buffer);
+        }
     }
 
   private:
-    IWICBitmapSource* m_pixels; // 32 bits a pixel, colours multiplied by alpha; released at the end
-    const void* m_buffer;
-    BufferDisposalFlag m_disposal;
+    IWICBitmapSource* pixels; // 32 bits a pixel, colours multiplied by alpha; released at the end
+    const void* buffer;
+    BufferDisposalFlag disposal;
 };
 
-HRESULT Decode(IWICImagingFactory* codecs, const void* buffer, UINT size, IWICBitmapSource** pixels)
+} // namespace
+
+static HRESULT Decode(IWICImagingFactory* codecs, const void* buffer, UINT size, IWICBitmapSource** pixels)
 {
     Holder<IWICStream> stream;
     HRESULT result = codecs->CreateStream(&stream.object);
-    if (SUCCEEDED(result))
+    if (SUCCEEDED(result)) {
         result = stream->InitializeFromMemory(static_cast<BYTE*>(const_cast<void*>(buffer)), size);
+    }
     Holder<IWICBitmapDecoder> decoder;
-    if (SUCCEEDED(result))
+    if (SUCCEEDED(result)) {
         result = codecs->CreateDecoderFromStream(stream.object, nullptr, WICDecodeMetadataCacheOnDemand,
                                                  &decoder.object);
+    }
     Holder<IWICBitmapFrameDecode> frame;
-    if (SUCCEEDED(result))
+    if (SUCCEEDED(result)) {
         result = decoder->GetFrame(0, &frame.object);
+    }
     Holder<IWICFormatConverter> converter;
-    if (SUCCEEDED(result))
+    if (SUCCEEDED(result)) {
         result = codecs->CreateFormatConverter(&converter.object);
-    if (SUCCEEDED(result))
+    }
+    if (SUCCEEDED(result)) {
         result = converter->Initialize(frame.object, GUID_WICPixelFormat32bppPBGRA, WICBitmapDitherTypeNone,
                                        nullptr, 0.0, WICBitmapPaletteTypeCustom);
-    if (SUCCEEDED(result))
+    }
+    if (SUCCEEDED(result)) {
         *pixels = converter.Detach();
+    }
     return result;
 }
-
-} // namespace
 
 HRESULT CreateImage(IWICImagingFactory* codecs, const void* buffer, UINT size, BufferDisposalFlag disposal,
                     IImage** image)
@@ -172,8 +190,9 @@ HRESULT CreateImage(IWICImagingFactory* codecs, const void* buffer, UINT size, B
     *image = nullptr;
     IWICBitmapSource* pixels = nullptr;
     const HRESULT result = Decode(codecs, buffer, size, &pixels);
-    if (FAILED(result))
+    if (FAILED(result)) {
         return result;
+    }
     *image = new Image(pixels, buffer, disposal);
     return S_OK;
 }

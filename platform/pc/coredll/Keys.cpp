@@ -6,8 +6,9 @@ extern "C" BOOL WINAPI ce_GetMessageW(MSG* message, HWND window, UINT first, UIN
     const BOOL result = GetMessageW(message, window, first, last);
     // The caller gets something for a soft key too: its window may have gone below the key's menu, and then
     // no other message would ever let it notice.
-    if (result > 0 && handheld::HandleSoftKey(*message))
+    if (result > 0 && handheld::HandleSoftKey(*message)) {
         message->message = WM_NULL;
+    }
     return result;
 }
 

@@ -6,9 +6,9 @@
 
 #include <commctrl.h>
 
-namespace {
+static WNDPROC original; // the one procedure of all list views
 
-WNDPROC s_original; // the one procedure of all list views
+namespace {
 
 struct Position
 {
@@ -17,13 +17,15 @@ struct Position
     bool operator==(const Position& other) const { return mark == other.mark && top == other.top; }
 };
 
-Position PositionOf(HWND list)
+} // namespace
+
+static Position PositionOf(HWND list)
 {
-    return {CallWindowProcW(s_original, list, LVM_GETSELECTIONMARK, 0, 0),
-            CallWindowProcW(s_original, list, LVM_GETTOPINDEX, 0, 0)};
+    return {CallWindowProcW(original, list, LVM_GETSELECTIONMARK, 0, 0),
+            CallWindowProcW(original, list, LVM_GETTOPINDEX, 0, 0)};
 }
 
-bool CanMoveList(UINT message)
+static bool CanMoveList(UINT message)
 {
     switch (message) {
     case WM_KEYDOWN:
@@ -43,7 +45,7 @@ bool CanMoveList(UINT message)
 }
 
 // What a tap does to the selection brings the focused row on the screen too.
-bool DrawsFocusedRow(UINT message)
+static bool DrawsFocusedRow(UINT message)
 {
     switch (message) {
     case WM_SETFOCUS:
@@ -56,14 +58,14 @@ bool DrawsFocusedRow(UINT message)
     }
 }
 
-LRESULT CALLBACK InnerProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam)
+static LRESULT CALLBACK InnerProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const bool drawn = DrawsFocusedRow(message);
     if (!drawn && !CanMoveList(message)) {
-        return CallWindowProcW(s_original, list, message, wParam, lParam);
+        return CallWindowProcW(original, list, message, wParam, lParam);
     }
     const Position before = PositionOf(list);
-    const LRESULT result = CallWindowProcW(s_original, list, message, wParam, lParam);
+    const LRESULT result = CallWindowProcW(original, list, message, wParam, lParam);
     // The message may have ended the window (a double click that closes its dialog).
     if (IsWindow(list) && (drawn || !(PositionOf(list) == before))) {
         InvalidateRect(list, nullptr, FALSE);
@@ -71,11 +73,9 @@ LRESULT CALLBACK InnerProcedure(HWND list, UINT message, WPARAM wParam, LPARAM l
     return result;
 }
 
-} // namespace
-
 void RepaintWhenListMoves(HWND list)
 {
     const LONG_PTR replaced =
         SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(InnerProcedure));
-    s_original = reinterpret_cast<WNDPROC>(replaced);
+    original = reinterpret_cast<WNDPROC>(replaced);
 }

@@ -3,18 +3,16 @@
 
 #include <string>
 
-namespace {
+static constexpr wchar_t headlessVariable[] = L"HANDHELD_HEADLESS";
 
-constexpr wchar_t HeadlessVariable[] = L"HANDHELD_HEADLESS";
-
-bool IsHeadless()
+static bool IsHeadless()
 {
     wchar_t value[4];
-    return GetEnvironmentVariableW(HeadlessVariable, value, 4) == 1 && value[0] == L'1';
+    return GetEnvironmentVariableW(headlessVariable, value, 4) == 1 && value[0] == L'1';
 }
 
 // "caption\ntext\n" in UTF-8.
-void WriteToStandardError(const wchar_t* text, const wchar_t* caption)
+static void WriteToStandardError(const wchar_t* text, const wchar_t* caption)
 {
     const std::wstring message =
         std::wstring(caption ? caption : L"Error") + L"\n" + (text ? text : L"") + L"\n";
@@ -27,7 +25,7 @@ void WriteToStandardError(const wchar_t* text, const wchar_t* caption)
 }
 
 // What a user would press who wants nothing to happen.
-int HarmlessAnswer(UINT type)
+static int HarmlessAnswer(UINT type)
 {
     switch (type & MB_TYPEMASK) {
     case MB_YESNO:
@@ -42,8 +40,6 @@ int HarmlessAnswer(UINT type)
         return IDOK;
     }
 }
-
-} // namespace
 
 extern "C" int WINAPI ce_MessageBoxW(HWND owner, const wchar_t* text, const wchar_t* caption, UINT type)
 {

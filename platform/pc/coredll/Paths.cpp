@@ -3,53 +3,55 @@
 
 #include <windows.h>
 
-namespace {
-
 // Modules lie on 64 KB borders; anything else in a module's place is a process id, as a device takes it.
-bool IsProcessId(HMODULE module)
+static bool IsProcessId(HMODULE module)
 {
     return (reinterpret_cast<ULONG_PTR>(module) & 0xFFFF) != 0;
 }
 
-DWORD PathOfProcess(DWORD process, wchar_t* path, DWORD size)
+static DWORD PathOfProcess(DWORD process, wchar_t* path, DWORD size)
 {
-    if (size == 0)
+    if (size == 0) {
         return 0;
+    }
     *path = L'\0';
     const HANDLE handle = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
-    if (!handle)
+    if (!handle) {
         return 0;
+    }
     DWORD length = size;
     const BOOL known = QueryFullProcessImageNameW(handle, 0, path, &length);
     const DWORD error = GetLastError();
     CloseHandle(handle);
-    if (known)
+    if (known) {
         return length;
+    }
     *path = L'\0';
     SetLastError(error);
     return 0;
 }
 
-bool IsDots(const wchar_t* name)
+static bool IsDots(const wchar_t* name)
 {
     return lstrcmpW(name, L".") == 0 || lstrcmpW(name, L"..") == 0;
 }
 
-const wchar_t* NamePart(const wchar_t* path)
+static const wchar_t* NamePart(const wchar_t* path)
 {
     const wchar_t* name = path;
-    for (const wchar_t* c = path; *c; ++c)
-        if (*c == L'\\' || *c == L'/')
+    for (const wchar_t* c = path; *c; ++c) {
+        if (*c == L'\\' || *c == L'/') {
             name = c + 1;
+        }
+    }
     return name;
 }
 
-} // namespace
-
 extern "C" DWORD WINAPI ce_GetModuleFileNameW(HMODULE module, wchar_t* path, DWORD size)
 {
-    if (IsProcessId(module))
+    if (IsProcessId(module)) {
         return PathOfProcess(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(module)), path, size);
+    }
     return GetModuleFileNameW(module, path, size);
 }
 
@@ -57,14 +59,16 @@ extern "C" DWORD WINAPI ce_GetModuleFileNameW(HMODULE module, wchar_t* path, DWO
 extern "C" HANDLE WINAPI ce_FindFirstFileW(const wchar_t* pattern, WIN32_FIND_DATAW* data)
 {
     const HANDLE search = FindFirstFileW(pattern, data);
-    if (search == INVALID_HANDLE_VALUE)
+    if (search == INVALID_HANDLE_VALUE) {
         return search;
-    while (IsDots(data->cFileName) || !handheld::MatchesPattern(data->cFileName, NamePart(pattern)))
+    }
+    while (IsDots(data->cFileName) || !handheld::MatchesPattern(data->cFileName, NamePart(pattern))) {
         if (!FindNextFileW(search, data)) {
             FindClose(search);
             SetLastError(ERROR_FILE_NOT_FOUND);
             return INVALID_HANDLE_VALUE;
         }
+    }
     return search;
 }
 
@@ -82,8 +86,9 @@ extern "C" HMODULE WINAPI ce_LoadLibraryW(const wchar_t* name)
             auto* file = const_cast<wchar_t*>(NamePart(path));
             if (file - path + lstrlenW(name) < MAX_PATH) {
                 lstrcpyW(file, name);
-                if (const HMODULE module = LoadLibraryW(path))
+                if (const HMODULE module = LoadLibraryW(path)) {
                     return module;
+                }
             }
         }
     }

@@ -5,32 +5,30 @@
 #include <string>
 #include <string_view>
 
-namespace {
-
-constexpr std::wstring_view ButtonKeys = L"Software\\Microsoft\\Shell\\Keys";
-constexpr wchar_t UserHive[] = L"Software\\Quorvane Handheld\\Machine\\";
+static constexpr std::wstring_view buttonKeys = L"Software\\Microsoft\\Shell\\Keys";
+static constexpr wchar_t userHive[] = L"Software\\Quorvane Handheld\\Machine\\";
 
 // The per-user stand-in for one of the keys that a device lets everybody write; empty for any other key.
-std::wstring StandIn(HKEY root, const wchar_t* path)
+static std::wstring StandIn(HKEY root, const wchar_t* path)
 {
-    if (root != HKEY_LOCAL_MACHINE || !path)
+    if (root != HKEY_LOCAL_MACHINE || !path) {
         return {};
+    }
     const std::wstring_view name = path;
-    const bool inside = name.size() >= ButtonKeys.size() &&
-                        CompareStringOrdinal(path, static_cast<int>(ButtonKeys.size()), ButtonKeys.data(),
-                                             static_cast<int>(ButtonKeys.size()), TRUE) == CSTR_EQUAL &&
-                        (name.size() == ButtonKeys.size() || name[ButtonKeys.size()] == L'\\');
-    return inside ? UserHive + std::wstring(name) : std::wstring();
+    const bool inside = name.size() >= buttonKeys.size() &&
+                        CompareStringOrdinal(path, static_cast<int>(buttonKeys.size()), buttonKeys.data(),
+                                             static_cast<int>(buttonKeys.size()), TRUE) == CSTR_EQUAL &&
+                        (name.size() == buttonKeys.size() || name[buttonKeys.size()] == L'\\');
+    return inside ? userHive + std::wstring(name) : std::wstring();
 }
-
-} // namespace
 
 extern "C" LONG WINAPI ce_RegOpenKeyExW(HKEY root, const wchar_t* path, DWORD options, REGSAM access,
                                         HKEY* key)
 {
     const LONG result = RegOpenKeyExW(root, path, options, access, key);
-    if (result != ERROR_ACCESS_DENIED)
+    if (result != ERROR_ACCESS_DENIED) {
         return result;
+    }
     const std::wstring standIn = StandIn(root, path);
     return standIn.empty() ? result : RegOpenKeyExW(HKEY_CURRENT_USER, standIn.c_str(), options, access, key);
 }
@@ -41,8 +39,9 @@ extern "C" LONG WINAPI ce_RegCreateKeyExW(HKEY root, const wchar_t* path, DWORD 
 {
     const LONG result =
         RegCreateKeyExW(root, path, reserved, className, options, access, security, key, disposition);
-    if (result != ERROR_ACCESS_DENIED)
+    if (result != ERROR_ACCESS_DENIED) {
         return result;
+    }
     const std::wstring standIn = StandIn(root, path);
     return standIn.empty() ? result
                            : RegCreateKeyExW(HKEY_CURRENT_USER, standIn.c_str(), reserved, className, options,

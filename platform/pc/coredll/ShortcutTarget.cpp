@@ -8,18 +8,18 @@
 
 #include <shlobj.h>
 
-namespace {
-
-std::wstring TargetFromText(const wchar_t* shortcut)
+static std::wstring TargetFromText(const wchar_t* shortcut)
 {
     const HANDLE file =
         CreateFileW(shortcut, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    if (file == INVALID_HANDLE_VALUE) {
         return {};
+    }
     char bytes[600];
     DWORD size = 0;
-    if (!ReadFile(file, bytes, sizeof(bytes), &size, nullptr))
+    if (!ReadFile(file, bytes, sizeof(bytes), &size, nullptr)) {
         size = 0;
+    }
     CloseHandle(file);
     const std::string_view path = handheld::ShortcutTextPath({bytes, size});
     std::wstring target(path.size(), L'\0');
@@ -30,7 +30,7 @@ std::wstring TargetFromText(const wchar_t* shortcut)
 }
 
 // The shell's link object needs COM, which the caller's thread may not have started.
-std::wstring TargetFromShell(const wchar_t* shortcut)
+static std::wstring TargetFromShell(const wchar_t* shortcut)
 {
     const HRESULT started = ce_CoInitializeEx(nullptr, 0);
     std::wstring target;
@@ -40,8 +40,9 @@ std::wstring TargetFromShell(const wchar_t* shortcut)
         if (SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file)))) {
             wchar_t path[MAX_PATH] = {};
             if (SUCCEEDED(file->Load(shortcut, STGM_READ)) &&
-                link->GetPath(path, MAX_PATH, nullptr, 0) == S_OK)
+                link->GetPath(path, MAX_PATH, nullptr, 0) == S_OK) {
                 target = path;
+            }
             file->Release();
         }
         link->Release();
@@ -51,8 +52,6 @@ std::wstring TargetFromShell(const wchar_t* shortcut)
     }
     return target;
 }
-
-} // namespace
 
 std::wstring ShortcutTarget(const wchar_t* shortcut)
 {

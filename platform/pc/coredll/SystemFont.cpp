@@ -4,8 +4,9 @@
 
 extern "C" HGDIOBJ WINAPI ce_GetStockObject(int index)
 {
-    if (index != SYSTEM_FONT)
+    if (index != SYSTEM_FONT) {
         return GetStockObject(index);
+    }
     static const HFONT font = handheld::CreateScreenFont(9, FW_NORMAL);
     return font;
 }

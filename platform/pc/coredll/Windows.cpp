@@ -4,15 +4,11 @@
 
 #include <commctrl.h>
 
-namespace {
-
-bool IsVirtualList(const wchar_t* className, DWORD style)
+static bool IsVirtualList(const wchar_t* className, DWORD style)
 {
     return !IS_INTRESOURCE(className) && lstrcmpiW(className, WC_LISTVIEWW) == 0 &&
            (style & LVS_OWNERDATA) != 0;
 }
-
-} // namespace
 
 extern "C" HWND WINAPI ce_CreateWindowExW(DWORD exStyle, const wchar_t* className, const wchar_t* title,
                                           DWORD style, int x, int y, int width, int height, HWND parent,
@@ -21,8 +17,9 @@ extern "C" HWND WINAPI ce_CreateWindowExW(DWORD exStyle, const wchar_t* classNam
     const int unset = static_cast<int>(CW_USEDEFAULT);
     if (parent) {
         // On the device a window with a parent is its child unless it is a pop-up.
-        if ((style & (WS_CHILD | WS_POPUP)) == 0)
+        if ((style & (WS_CHILD | WS_POPUP)) == 0) {
             style |= WS_CHILD;
+        }
     } else if ((style & WS_CHILD) == 0) {
         const RECT area = handheld::ProgramRect();
         if (x == unset) {
@@ -34,13 +31,15 @@ extern "C" HWND WINAPI ce_CreateWindowExW(DWORD exStyle, const wchar_t* classNam
             height = area.bottom - y;
         }
         // The PC would force a caption and a frame on an overlapped window.
-        if ((style & WS_CAPTION) != WS_CAPTION)
+        if ((style & WS_CAPTION) != WS_CAPTION) {
             style |= WS_POPUP;
+        }
     }
     const HWND window = CreateWindowExW(exStyle, className, title, style, x, y, width, height, parent, menu,
                                         instance, parameter);
-    if (window && IsVirtualList(className, style))
+    if (window && IsVirtualList(className, style)) {
         RepaintWhenListMoves(window);
+    }
     return window;
 }
 

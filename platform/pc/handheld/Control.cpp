@@ -1,31 +1,27 @@
 // Control: the hidden window by which scripts find the handheld and end it with WM_CLOSE.
 #include "platform/pc/handheld/Control.h"
 
-namespace {
-
-constexpr wchar_t ControlClass[] = L"QuorvaneHandheldControl";
-constexpr wchar_t ReadyProperty[] = L"Ready";
-
-} // namespace
+static constexpr wchar_t controlClass[] = L"QuorvaneHandheldControl";
+static constexpr wchar_t readyProperty[] = L"Ready";
 
 HWND Control::Find()
 {
-    return FindWindowW(ControlClass, nullptr);
+    return FindWindowW(controlClass, nullptr);
 }
 
 bool Control::IsReady(HWND control)
 {
-    return control && GetPropW(control, ReadyProperty) != nullptr;
+    return control && GetPropW(control, readyProperty) != nullptr;
 }
 
 bool Control::Open()
 {
-    return Create(ControlClass, L"", 0, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, RECT{});
+    return Create(controlClass, L"", 0, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, RECT{});
 }
 
 void Control::SetReady()
 {
-    SetPropW(Window(), ReadyProperty, reinterpret_cast<HANDLE>(1));
+    SetPropW(Window(), readyProperty, reinterpret_cast<HANDLE>(1));
 }
 
 LRESULT Control::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
@@ -35,7 +31,7 @@ LRESULT Control::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         PostQuitMessage(0);
         return 0;
     case WM_NCDESTROY:
-        RemovePropW(Window(), ReadyProperty);
+        RemovePropW(Window(), readyProperty);
         break;
     }
     return ShellWindow::HandleMessage(message, wParam, lParam);

@@ -19,7 +19,7 @@ struct Options
     std::wstring ready;   // path of a file to create as soon as the screen stands; empty for none
 };
 
-extern const wchar_t OptionsHelp[];
+extern const wchar_t optionsHelp[];
 
 // arguments: without the program's name. False for anything that is not an option.
 bool ParseOptions(const std::vector<std::wstring>& arguments, Options& options);

@@ -5,8 +5,9 @@
 
 ShellWindow::~ShellWindow()
 {
-    if (m_window)
-        DestroyWindow(m_window);
+    if (window) {
+        DestroyWindow(window);
+    }
 }
 
 bool ShellWindow::Create(const wchar_t* className, const wchar_t* title, DWORD style, DWORD exStyle,
@@ -17,11 +18,12 @@ bool ShellWindow::Create(const wchar_t* className, const wchar_t* title, DWORD s
     windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     windowClass.lpszClassName = className;
-    if (!RegisterClassW(&windowClass))
+    if (!RegisterClassW(&windowClass)) {
         return false;
+    }
     CreateWindowExW(exStyle, className, title, style | WS_POPUP, rect.left, rect.top, rect.right - rect.left,
                     rect.bottom - rect.top, nullptr, nullptr, windowClass.hInstance, this);
-    return m_window != nullptr;
+    return window != nullptr;
 }
 
 LRESULT ShellWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
@@ -30,14 +32,14 @@ LRESULT ShellWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT: {
-        handheld::Surface surface(m_window);
+        handheld::Surface surface(window);
         Paint(surface);
         return 0;
     }
     case WM_CLOSE: // the shell does not end
         return 0;
     default:
-        return DefWindowProcW(m_window, message, wParam, lParam);
+        return DefWindowProcW(window, message, wParam, lParam);
     }
 }
 
@@ -46,13 +48,14 @@ void ShellWindow::Paint(handheld::Surface&) {}
 LRESULT CALLBACK ShellWindow::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     auto* self = handheld::ObjectOf<ShellWindow>(window, message, lParam);
-    if (!self)
+    if (!self) {
         return DefWindowProcW(window, message, wParam, lParam);
-    self->m_window = window;
+    }
+    self->window = window;
     const LRESULT result = self->HandleMessage(message, wParam, lParam);
     if (message == WM_NCDESTROY) {
         handheld::ForgetObject(window);
-        self->m_window = nullptr;
+        self->window = nullptr;
     }
     return result;
 }

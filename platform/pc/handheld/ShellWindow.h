@@ -10,7 +10,7 @@ class ShellWindow
     ShellWindow(const ShellWindow&) = delete;
     ShellWindow& operator=(const ShellWindow&) = delete;
 
-    HWND Window() const { return m_window; }
+    HWND Window() const { return window; }
 
   protected:
     ShellWindow() = default;
@@ -24,5 +24,5 @@ class ShellWindow
   private:
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-    HWND m_window = nullptr;
+    HWND window = nullptr;
 };

@@ -7,73 +7,70 @@
 
 using handheld::Scaled;
 
-namespace {
+static constexpr UINT_PTR dateTimer = 1;
+static constexpr UINT dateInterval = 20000; // ms
+static constexpr int lineHeight = 36;       // at 96 dpi
+static constexpr wchar_t programFile[] = L"Quorvane.exe";
 
-constexpr UINT_PTR DateTimer = 1;
-constexpr UINT DateInterval = 20000; // ms
-constexpr int LineHeight = 36;       // at 96 dpi
-constexpr wchar_t ProgramFile[] = L"Quorvane.exe";
+static constexpr COLORREF skyTop = RGB(28, 74, 140);
+static constexpr COLORREF skyBottom = RGB(150, 196, 232);
+static constexpr COLORREF bandTop = RGB(60, 112, 184);
+static constexpr COLORREF bandBottom = RGB(36, 82, 150);
+static constexpr COLORREF rule = RGB(120, 165, 215);
+static constexpr COLORREF white = RGB(255, 255, 255);
+static constexpr COLORREF pale = RGB(214, 230, 246);
 
-constexpr COLORREF SkyTop = RGB(28, 74, 140);
-constexpr COLORREF SkyBottom = RGB(150, 196, 232);
-constexpr COLORREF BandTop = RGB(60, 112, 184);
-constexpr COLORREF BandBottom = RGB(36, 82, 150);
-constexpr COLORREF Rule = RGB(120, 165, 215);
-constexpr COLORREF White = RGB(255, 255, 255);
-constexpr COLORREF Pale = RGB(214, 230, 246);
-
-std::wstring DateOfToday()
+static std::wstring DateOfToday()
 {
     wchar_t text[80] = {};
     GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, 0, nullptr, L"dddd, MMMM d", text, 80, nullptr);
     return text;
 }
 
-std::wstring ProgramPath()
+static std::wstring ProgramPath()
 {
     wchar_t path[MAX_PATH];
     const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
     std::wstring program(path, length < MAX_PATH ? length : 0);
-    program = program.substr(0, program.find_last_of(L'\\') + 1) + ProgramFile;
+    program = program.substr(0, program.find_last_of(L'\\') + 1) + programFile;
     return GetFileAttributesW(program.c_str()) == INVALID_FILE_ATTRIBUTES ? std::wstring() : program;
 }
 
-std::wstring OwnerName()
+static std::wstring OwnerName()
 {
     wchar_t name[80] = {};
     DWORD size = 80;
     return GetUserNameW(name, &size) ? name : L"";
 }
 
-} // namespace
-
 Today::Today()
-    : m_program(ProgramPath()), m_bold(handheld::CreateScreenFont(9, FW_BOLD)),
-      m_normal(handheld::CreateScreenFont(8, FW_NORMAL)), m_large(handheld::CreateScreenFont(11, FW_BOLD))
+    : program(ProgramPath()), bold(handheld::CreateScreenFont(9, FW_BOLD)),
+      normal(handheld::CreateScreenFont(8, FW_NORMAL)), large(handheld::CreateScreenFont(11, FW_BOLD))
 {
     const handheld::Profile& profile = handheld::ActiveProfile();
     const std::wstring size = std::to_wstring(profile.width) + L" x " + std::to_wstring(profile.height) +
                               L" pixels, " + std::to_wstring(profile.dpi) + L" dpi";
-    m_lines = {{L"Owner", OwnerName(), RGB(244, 180, 60)},
-               {profile.IsSmartphone() ? L"Smartphone" : L"Pocket PC", size, RGB(110, 190, 90)},
-               {L"Soft keys", L"F1 is the left one, F2 the right one", RGB(214, 96, 80)}};
+    lines = {{L"Owner", OwnerName(), RGB(244, 180, 60)},
+             {profile.IsSmartphone() ? L"Smartphone" : L"Pocket PC", size, RGB(110, 190, 90)},
+             {L"Soft keys", L"F1 is the left one, F2 the right one", RGB(214, 96, 80)}};
 }
 
 Today::~Today()
 {
-    DeleteObject(m_bold);
-    DeleteObject(m_normal);
-    DeleteObject(m_large);
+    DeleteObject(bold);
+    DeleteObject(normal);
+    DeleteObject(large);
 }
 
 bool Today::Open()
 {
     // A Smartphone's home screen has no title; task lists know it by its class.
     const wchar_t* title = handheld::ActiveProfile().IsSmartphone() ? L"" : L"Today";
-    m_date = DateOfToday();
-    if (!Create(L"DesktopExplorerWindow", title, WS_VISIBLE, 0, handheld::ProgramRect()))
+    date = DateOfToday();
+    if (!Create(L"DesktopExplorerWindow", title, WS_VISIBLE, 0, handheld::ProgramRect())) {
         return false;
-    SetTimer(Window(), DateTimer, DateInterval, nullptr);
+    }
+    SetTimer(Window(), dateTimer, dateInterval, nullptr);
     UpdateWindow(Window());
     return true;
 }
@@ -85,15 +82,17 @@ LRESULT Today::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         UpdateDate();
         return 0;
     case WM_KEYDOWN:
-        if (wParam == VK_F1)
+        if (wParam == VK_F1) {
             StartProgram();
+        }
         return 0;
     case WM_LBUTTONUP: {
         const POINT point = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
         RECT leftKey = SoftKeyBar();
         leftKey.right /= 2;
-        if (PtInRect(&leftKey, point))
+        if (PtInRect(&leftKey, point)) {
             StartProgram();
+        }
         return 0;
     }
     default:
@@ -104,39 +103,40 @@ LRESULT Today::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 void Today::Paint(handheld::Surface& surface)
 {
     const RECT all = surface.Client();
-    surface.FillGradient(all, SkyTop, SkyBottom);
+    surface.FillGradient(all, skyTop, skyBottom);
     RECT band = {0, 0, all.right, Scaled(34)};
-    surface.FillGradient(band, BandTop, BandBottom);
+    surface.FillGradient(band, bandTop, bandBottom);
     InflateRect(&band, -Scaled(8), 0);
-    surface.Text(m_date, band, m_large, White, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+    surface.Text(date, band, large, white, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
     int top = Scaled(34);
-    for (const Line& line : m_lines) {
+    for (const Line& line : lines) {
         PaintLine(surface, line, top);
-        top += Scaled(LineHeight);
+        top += Scaled(lineHeight);
     }
     PaintSoftKeys(surface);
 }
 
 void Today::PaintLine(handheld::Surface& surface, const Line& line, int top) const
 {
-    const int bottom = top + Scaled(LineHeight);
+    const int bottom = top + Scaled(lineHeight);
     const int right = surface.Client().right;
     const int left = Scaled(8);
     surface.Fill({left, top + Scaled(12), left + Scaled(12), top + Scaled(24)}, line.badge);
     const RECT title = {left + Scaled(20), top + Scaled(3), right - left, top + Scaled(18)};
-    surface.Text(line.title, title, m_bold, White, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+    surface.Text(line.title, title, bold, white, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
     const RECT detail = {title.left, title.bottom, title.right, bottom - Scaled(2)};
-    surface.Text(line.detail, detail, m_normal, Pale, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
-    surface.Fill({left, bottom - Scaled(1), right - left, bottom}, Rule);
+    surface.Text(line.detail, detail, normal, pale, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
+    surface.Fill({left, bottom - Scaled(1), right - left, bottom}, rule);
 }
 
 void Today::PaintSoftKeys(handheld::Surface& surface) const
 {
     RECT bar = SoftKeyBar();
-    surface.FillGradient(bar, BandTop, BandBottom);
+    surface.FillGradient(bar, bandTop, bandBottom);
     bar.right /= 2;
-    if (!m_program.empty())
-        handheld::PaintKeyText(surface, bar, L"Quorvane", m_bold, true);
+    if (!program.empty()) {
+        handheld::PaintKeyText(surface, bar, L"Quorvane", bold, true);
+    }
 }
 
 RECT Today::SoftKeyBar() const
@@ -149,15 +149,17 @@ RECT Today::SoftKeyBar() const
 
 void Today::StartProgram()
 {
-    if (m_program.empty())
+    if (program.empty()) {
         return;
+    }
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process = {};
-    std::wstring commandLine = L"\"" + m_program + L"\"";
-    if (!CreateProcessW(m_program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &process))
+    std::wstring commandLine = L"\"" + program + L"\"";
+    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &startup, &process)) {
         return;
+    }
     AllowSetForegroundWindow(process.dwProcessId);
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
@@ -165,9 +167,10 @@ void Today::StartProgram()
 
 void Today::UpdateDate()
 {
-    const std::wstring date = DateOfToday();
-    if (date == m_date)
+    const std::wstring now = DateOfToday();
+    if (now == date) {
         return;
-    m_date = date;
+    }
+    date = now;
     InvalidateRect(Window(), nullptr, FALSE);
 }

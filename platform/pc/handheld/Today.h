@@ -29,10 +29,10 @@ class Today final : public ShellWindow
     void StartProgram();
     void UpdateDate();
 
-    std::wstring m_date;
-    std::wstring m_program; // path of the program on the left soft key; empty when it is not there
-    std::vector<Line> m_lines;
-    HFONT m_bold;
-    HFONT m_normal;
-    HFONT m_large;
+    std::wstring date;
+    std::wstring program; // path of the program on the left soft key; empty when it is not there
+    std::vector<Line> lines;
+    HFONT bold;
+    HFONT normal;
+    HFONT large;
 };

@@ -7,7 +7,7 @@ class TopBar final : public ShellWindow
 {
   public:
     // today: the window that is shown as "Start".
-    explicit TopBar(HWND today);
+    explicit TopBar(HWND homeScreen);
     ~TopBar() override;
 
     bool Open();
@@ -16,12 +16,12 @@ class TopBar final : public ShellWindow
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void Paint(handheld::Surface& surface) override;
     std::wstring TitleOfForeground() const;
-    void MakeRoom(HWND window) const;
+    void MakeRoom(HWND front) const;
     void Update();
 
-    HWND m_today;
-    std::wstring m_title;
-    std::wstring m_time;
-    HFONT m_bold;
-    HFONT m_normal;
+    HWND today;
+    std::wstring title;
+    std::wstring time;
+    HFONT bold;
+    HFONT normal;
 };

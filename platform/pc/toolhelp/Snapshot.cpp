@@ -10,32 +10,32 @@ namespace {
 class ScriptedHeaps final : public HeapSnapshot
 {
   public:
-    ScriptedHeaps(DWORD processId, const handheld::HeapScript& script)
-        : HeapSnapshot(processId), m_script(script)
+    ScriptedHeaps(DWORD process, const handheld::HeapScript& written) : HeapSnapshot(process), script(written)
     {}
 
-    DWORD HeapCount() const override { return static_cast<DWORD>(m_script.heaps.size()); }
+    DWORD HeapCount() const override { return static_cast<DWORD>(script.heaps.size()); }
 
-    bool FirstBlock(DWORD heap, SIZE_T& size) override
+    bool FirstBlock(DWORD number, SIZE_T& size) override
     {
-        m_heap = heap;
-        m_block = 0;
+        heap = number;
+        block = 0;
         return NextBlock(size);
     }
 
     bool NextBlock(SIZE_T& size) override
     {
-        const auto& blocks = m_script.heaps[m_heap];
-        if (m_block >= blocks.size())
+        const auto& blocks = script.heaps[heap];
+        if (block >= blocks.size()) {
             return false;
-        size = blocks[m_block++];
+        }
+        size = blocks[block++];
         return true;
     }
 
   private:
-    const handheld::HeapScript& m_script; // of the active profile, which lives as long as the process
-    DWORD m_heap = 0;
-    size_t m_block = 0;
+    const handheld::HeapScript& script; // of the active profile, which lives as long as the process
+    DWORD heap = 0;
+    size_t block = 0;
 };
 
 // Walks while it is asked: collecting the blocks first would allocate from a heap in the middle of its walk.
@@ -44,59 +44,62 @@ class OwnHeaps final : public HeapSnapshot
   public:
     OwnHeaps() : HeapSnapshot(GetCurrentProcessId())
     {
-        const DWORD count = GetProcessHeaps(Capacity, m_heaps);
-        m_count = count < Capacity ? count : Capacity;
+        const DWORD all = GetProcessHeaps(capacity, heaps);
+        count = all < capacity ? all : capacity;
     }
 
-    DWORD HeapCount() const override { return m_count; }
+    DWORD HeapCount() const override { return count; }
 
-    bool FirstBlock(DWORD heap, SIZE_T& size) override
+    bool FirstBlock(DWORD number, SIZE_T& size) override
     {
-        m_heap = m_heaps[heap];
-        m_entry = {};
+        heap = heaps[number];
+        entry = {};
         return NextBlock(size);
     }
 
     bool NextBlock(SIZE_T& size) override
     {
-        while (m_heap && HeapWalk(m_heap, &m_entry))
-            if ((m_entry.wFlags & (PROCESS_HEAP_REGION | PROCESS_HEAP_UNCOMMITTED_RANGE)) == 0) {
-                size = m_entry.cbData;
+        while (heap && HeapWalk(heap, &entry)) {
+            if ((entry.wFlags & (PROCESS_HEAP_REGION | PROCESS_HEAP_UNCOMMITTED_RANGE)) == 0) {
+                size = entry.cbData;
                 return true;
             }
+        }
         return false;
     }
 
   private:
-    static constexpr DWORD Capacity = 64;
-    HANDLE m_heaps[Capacity];
-    DWORD m_count;
-    HANDLE m_heap = nullptr;
-    PROCESS_HEAP_ENTRY m_entry = {};
+    static constexpr DWORD capacity = 64;
+    HANDLE heaps[capacity];
+    DWORD count;
+    HANDLE heap = nullptr;
+    PROCESS_HEAP_ENTRY entry = {};
 };
 
 class ForeignHeap final : public HeapSnapshot
 {
   public:
-    ForeignHeap(DWORD processId, SIZE_T size) : HeapSnapshot(processId), m_size(size) {}
+    ForeignHeap(DWORD process, SIZE_T memory) : HeapSnapshot(process), committed(memory) {}
 
     DWORD HeapCount() const override { return 1; }
 
     bool FirstBlock(DWORD, SIZE_T& size) override
     {
-        size = m_size;
+        size = committed;
         return true;
     }
 
     bool NextBlock(SIZE_T&) override { return false; }
 
   private:
-    SIZE_T m_size;
+    SIZE_T committed; // bytes
 };
+
+} // namespace
 
 // Only a profile with figures of its own makes the program's path worth its questions, for every task of a
 // refresh.
-const handheld::HeapScript* FindScript(HANDLE process)
+static const handheld::HeapScript* FindScript(HANDLE process)
 {
     const handheld::Profile& profile = handheld::ActiveProfile();
     if (profile.heapScripts.empty()) {
@@ -108,25 +111,26 @@ const handheld::HeapScript* FindScript(HANDLE process)
     return profile.FindHeapScript(path);
 }
 
-} // namespace
-
 HeapSnapshot* TakeHeapSnapshot(DWORD processId)
 {
-    if (processId == 0)
+    if (processId == 0) {
         processId = GetCurrentProcessId();
+    }
     const HANDLE process = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId);
-    if (!process)
+    if (!process) {
         return nullptr;
+    }
     HeapSnapshot* snapshot = nullptr;
     PROCESS_MEMORY_COUNTERS memory = {};
-    if (const handheld::HeapScript* script = FindScript(process))
+    if (const handheld::HeapScript* script = FindScript(process)) {
         snapshot = new ScriptedHeaps(processId, *script);
-    else if (processId == GetCurrentProcessId())
+    } else if (processId == GetCurrentProcessId()) {
         snapshot = new OwnHeaps;
-    // Committed private memory stands for the heaps: walking another process's real ones takes tens of
-    // milliseconds.
-    else if (GetProcessMemoryInfo(process, &memory, sizeof(memory)))
+        // Committed private memory stands for the heaps: walking another process's real ones takes tens of
+        // milliseconds.
+    } else if (GetProcessMemoryInfo(process, &memory, sizeof(memory))) {
         snapshot = new ForeignHeap(processId, memory.PagefileUsage);
+    }
     CloseHandle(process);
     return snapshot;
 }

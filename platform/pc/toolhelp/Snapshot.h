@@ -17,15 +17,15 @@ class HeapSnapshot
     virtual bool FirstBlock(DWORD heap, SIZE_T& size) = 0;
     virtual bool NextBlock(SIZE_T& size) = 0;
 
-    DWORD ProcessId() const { return m_processId; }
+    DWORD ProcessId() const { return processId; }
 
     DWORD currentHeap = 0; // of the walk over the heaps, not over blocks
 
   protected:
-    explicit HeapSnapshot(DWORD processId) : m_processId(processId) {}
+    explicit HeapSnapshot(DWORD process) : processId(process) {}
 
   private:
-    DWORD m_processId;
+    DWORD processId;
 };
 
 // Null when the process has gone or does not let itself be asked.

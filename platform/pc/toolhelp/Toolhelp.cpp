@@ -4,65 +4,66 @@
 #include <algorithm>
 #include <vector>
 
-namespace {
-
-constexpr DWORD NoHeaps =
+static constexpr DWORD noHeaps =
     0x40000000; // the device's "processes without their heaps", which the PC's walk never has
 
 // The heap snapshots that are open. Every other handle is the system's own.
-std::vector<HeapSnapshot*> s_snapshots;
+static std::vector<HeapSnapshot*> snapshots;
 
-HeapSnapshot* FindSnapshot(HANDLE handle)
+static HeapSnapshot* FindSnapshot(HANDLE handle)
 {
-    const auto found = std::find(s_snapshots.begin(), s_snapshots.end(), handle);
-    return found == s_snapshots.end() ? nullptr : *found;
+    const auto found = std::find(snapshots.begin(), snapshots.end(), handle);
+    return found == snapshots.end() ? nullptr : *found;
 }
 
-BOOL Fail(DWORD error)
+static BOOL Fail(DWORD error)
 {
     SetLastError(error);
     return FALSE;
 }
 
-BOOL FillList(const HeapSnapshot& snapshot, HEAPLIST32* list)
+static BOOL FillList(const HeapSnapshot& snapshot, HEAPLIST32* list)
 {
-    if (snapshot.currentHeap >= snapshot.HeapCount())
+    if (snapshot.currentHeap >= snapshot.HeapCount()) {
         return Fail(ERROR_NO_MORE_FILES);
+    }
     list->th32ProcessID = snapshot.ProcessId();
     list->th32HeapID = snapshot.currentHeap + 1;
     list->dwFlags = 0;
     return TRUE;
 }
 
-BOOL FillEntry(bool found, SIZE_T size, HEAPENTRY32* entry)
+static BOOL FillEntry(bool found, SIZE_T size, HEAPENTRY32* entry)
 {
-    if (!found)
+    if (!found) {
         return Fail(ERROR_NO_MORE_FILES);
+    }
     constexpr SIZE_T largest = 0xFFFFFFFF;
     entry->dwBlockSize = static_cast<DWORD>(std::min(size, largest));
     return TRUE;
 }
 
-} // namespace
-
 extern "C" HANDLE WINAPI ce_CreateToolhelp32Snapshot(DWORD flags, DWORD processId)
 {
-    flags &= ~NoHeaps;
-    if ((flags & TH32CS_SNAPHEAPLIST) == 0)
+    flags &= ~noHeaps;
+    if ((flags & TH32CS_SNAPHEAPLIST) == 0) {
         return CreateToolhelp32Snapshot(flags, processId);
+    }
     HeapSnapshot* const snapshot = TakeHeapSnapshot(processId);
-    if (!snapshot)
+    if (!snapshot) {
         return INVALID_HANDLE_VALUE;
-    s_snapshots.push_back(snapshot);
+    }
+    snapshots.push_back(snapshot);
     return snapshot;
 }
 
 extern "C" BOOL WINAPI ce_CloseToolhelp32Snapshot(HANDLE handle)
 {
     HeapSnapshot* const snapshot = FindSnapshot(handle);
-    if (!snapshot)
+    if (!snapshot) {
         return CloseHandle(handle);
-    s_snapshots.erase(std::find(s_snapshots.begin(), s_snapshots.end(), snapshot));
+    }
+    snapshots.erase(std::find(snapshots.begin(), snapshots.end(), snapshot));
     delete snapshot;
     return TRUE;
 }
@@ -70,8 +71,9 @@ extern "C" BOOL WINAPI ce_CloseToolhelp32Snapshot(HANDLE handle)
 extern "C" BOOL WINAPI ce_Heap32ListFirst(HANDLE handle, HEAPLIST32* list)
 {
     HeapSnapshot* const snapshot = FindSnapshot(handle);
-    if (!snapshot || list->dwSize != sizeof(HEAPLIST32))
+    if (!snapshot || list->dwSize != sizeof(HEAPLIST32)) {
         return Fail(ERROR_INVALID_PARAMETER);
+    }
     snapshot->currentHeap = 0;
     return FillList(*snapshot, list);
 }
@@ -79,8 +81,9 @@ extern "C" BOOL WINAPI ce_Heap32ListFirst(HANDLE handle, HEAPLIST32* list)
 extern "C" BOOL WINAPI ce_Heap32ListNext(HANDLE handle, HEAPLIST32* list)
 {
     HeapSnapshot* const snapshot = FindSnapshot(handle);
-    if (!snapshot || list->dwSize != sizeof(HEAPLIST32))
+    if (!snapshot || list->dwSize != sizeof(HEAPLIST32)) {
         return Fail(ERROR_INVALID_PARAMETER);
+    }
     ++snapshot->currentHeap;
     return FillList(*snapshot, list);
 }
@@ -89,8 +92,9 @@ extern "C" BOOL WINAPI ce_Heap32First(HANDLE handle, HEAPENTRY32* entry, DWORD p
 {
     HeapSnapshot* const snapshot = FindSnapshot(handle);
     if (!snapshot || entry->dwSize != sizeof(HEAPENTRY32) || processId != snapshot->ProcessId() ||
-        heapId == 0 || heapId > snapshot->HeapCount())
+        heapId == 0 || heapId > snapshot->HeapCount()) {
         return Fail(ERROR_INVALID_PARAMETER);
+    }
     const DWORD size = entry->dwSize;
     *entry = {};
     entry->dwSize = size;
@@ -104,8 +108,9 @@ extern "C" BOOL WINAPI ce_Heap32First(HANDLE handle, HEAPENTRY32* entry, DWORD p
 extern "C" BOOL WINAPI ce_Heap32Next(HANDLE handle, HEAPENTRY32* entry)
 {
     HeapSnapshot* const snapshot = FindSnapshot(handle);
-    if (!snapshot || entry->dwSize != sizeof(HEAPENTRY32))
+    if (!snapshot || entry->dwSize != sizeof(HEAPENTRY32)) {
         return Fail(ERROR_INVALID_PARAMETER);
+    }
     SIZE_T blockSize = 0;
     const bool found = snapshot->NextBlock(blockSize);
     return FillEntry(found, blockSize, entry);

@@ -5,8 +5,9 @@
 
 ByteView ByteView::Part(std::uint64_t offset, std::uint64_t size) const
 {
-    if (offset > bytes.size() || size > bytes.size() - offset)
+    if (offset > bytes.size() || size > bytes.size() - offset) {
         throw std::out_of_range("it points outside the bytes it is in");
+    }
     return ByteView(bytes.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(size)));
 }
 
@@ -25,7 +26,8 @@ std::uint32_t ByteView::U32(std::uint64_t offset) const
 std::string ByteView::Text(std::uint64_t offset) const
 {
     std::string text;
-    while (const std::uint8_t byte = Part(offset + text.size(), 1).bytes[0])
+    while (const std::uint8_t byte = Part(offset + text.size(), 1).bytes[0]) {
         text += static_cast<char>(byte);
+    }
     return text;
 }

@@ -5,8 +5,9 @@
 
 void Complaints::Require(bool good, const std::string& complaint)
 {
-    if (!good)
+    if (!good) {
         sentences.push_back(complaint);
+    }
 }
 
 void Complaints::RequireEqual(const std::string& what, std::uint64_t actual, std::uint64_t expected)

@@ -28,8 +28,9 @@ class LibraryCheck
         Require(library.name.ends_with(".dll"), "the name does not end in .dll");
         stem = library.name.substr(0, library.name.rfind(".dll"));
         Require(lists.HasList(stem), "there is no list of its functions");
-        for (const std::uint32_t lookup : library.lookups)
+        for (const std::uint32_t lookup : library.lookups) {
             CheckFunction(lookup);
+        }
     }
 
   private:
@@ -57,8 +58,9 @@ class LibraryCheck
         }
         const std::uint32_t number = lookup & 0x7FFFFFFF;
         Require(number <= 0xFFFF, "a number has bits that none has");
-        if (lists.HasList(stem))
+        if (lists.HasList(stem)) {
             Require(lists.HasNumber(stem, number), "number " + std::to_string(number) + " is not listed");
+        }
     }
 
     void CheckName(std::uint32_t place)
@@ -75,8 +77,11 @@ class LibraryCheck
     }
 };
 
+} // namespace
+
 // The directory of addresses has every table with the zero behind it, and nothing else.
-void FindAddressFaults(const ImageView& image, std::vector<ImportLibrary> libraries, Complaints& complaints)
+static void FindAddressFaults(const ImageView& image, std::vector<ImportLibrary> libraries,
+                              Complaints& complaints)
 {
     std::ranges::sort(libraries, {}, &ImportLibrary::addressRva);
     const ImageRange directory = image.Directory(12);
@@ -89,13 +94,12 @@ void FindAddressFaults(const ImageView& image, std::vector<ImportLibrary> librar
     complaints.RequireEqual("the end of the directory of import addresses", directory.End(), end);
 }
 
-} // namespace
-
 void FindImportFaults(const ImageView& image, const ImportLists& lists, Complaints& complaints)
 {
     const ImportTables tables = ReadImportTables(image);
     complaints.Require(tables.terminated, "the import directory does not end with 20 zero bytes");
-    for (const ImportLibrary& library : tables.libraries)
+    for (const ImportLibrary& library : tables.libraries) {
         LibraryCheck(image, lists, library, complaints).Run();
+    }
     FindAddressFaults(image, tables.libraries, complaints);
 }

@@ -7,8 +7,9 @@
 const ImportLibrary& ImportFixture::Library(const std::string& name) const
 {
     for (const ImportLibrary& library : libraries) {
-        if (library.name == name)
+        if (library.name == name) {
             return library;
+        }
     }
     throw std::runtime_error("nothing is imported of " + name);
 }
@@ -28,8 +29,9 @@ std::size_t ImportFixture::IndexOf(const std::string& library, const std::string
 {
     const std::vector<std::uint32_t>& lookups = Library(library).lookups;
     for (std::size_t index = 0; index < lookups.size(); index++) {
-        if (lookups[index] < 0x80000000 && image.View().TextAt(lookups[index] + 2) == function)
+        if (lookups[index] < 0x80000000 && image.View().TextAt(lookups[index] + 2) == function) {
             return index;
+        }
     }
     throw std::runtime_error(function + " is not imported");
 }

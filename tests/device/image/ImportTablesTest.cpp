@@ -67,15 +67,17 @@ TEST_F(ImportTablesTest, LastRowThatIsNotZeroIsFound)
 {
     const std::uint32_t last =
         image.View().Directory(1).rva + static_cast<std::uint32_t>(20 * libraries.size());
-    for (std::uint32_t place = 0; place < 20; place += 4)
+    for (std::uint32_t place = 0; place < 20; place += 4) {
         image.Put32At(last + place, image.View().U32At(RowOf("ole32.dll") + place));
+    }
     ExpectFault(image, "the import directory does not end with 20 zero bytes");
 }
 
 TEST_F(ImportTablesTest, ZeroRowThatIsNotTheLastIsFound)
 {
-    for (std::uint32_t place = 0; place < 20; place += 4)
+    for (std::uint32_t place = 0; place < 20; place += 4) {
         image.Put32At(RowOf("ole32.dll") + place, 0);
+    }
     ExpectFault(image, "the import directory does not end with 20 zero bytes");
 }
 

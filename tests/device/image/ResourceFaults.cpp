@@ -14,8 +14,10 @@ struct ExpectedType
     std::vector<std::uint32_t> ids;
 };
 
+} // namespace
+
 // The menus are of the four pages and the Windows list; the dialogs Information and the Windows list.
-const ExpectedType expectedTypes[] = {
+static const ExpectedType expectedTypes[] = {
     {4, "menu", {102, 132, 134, 136, 173}},
     {5, "dialog", {125, 133}},
     {6, "block of strings", {1, 7}},
@@ -24,8 +26,6 @@ const ExpectedType expectedTypes[] = {
     {14, "icon", {101}},
     {16, "version", {1}},
 };
-
-} // namespace
 
 void FindResourceFaults(const ImageView& image, Complaints& complaints)
 {

@@ -17,8 +17,9 @@ class ResourceFaultsTest : public testing::Test
         const std::uint32_t counts = Word(table + 12);
         const std::uint32_t end = table + 16 + 8 * ((counts & 0xFFFF) + (counts >> 16));
         for (std::uint32_t row = table + 16; row < end; row += 8) {
-            if (Word(row) == id)
+            if (Word(row) == id) {
                 return row;
+            }
         }
         ADD_FAILURE() << "no row " << id;
         return table;
@@ -50,10 +51,12 @@ TEST_F(ResourceFaultsTest, EveryItemIsAskedFor)
                                   "accelerators 2",   "soft-key bar 111",   "soft-key bar 170",
                                   "soft-key bar 171", "soft-key bar 172",   "soft-key bar 173",
                                   "soft-key bar 174", "icon 101",           "version 1"};
-    for (const std::uint32_t type : {4u, 5u, 6u, 9u, 10u, 14u, 16u})
+    for (const std::uint32_t type : {4u, 5u, 6u, 9u, 10u, 14u, 16u}) {
         Put(RowOf(0, type), 900 + type);
-    for (const std::string fault : faults)
+    }
+    for (const std::string fault : faults) {
         ExpectFault(image, "there is no " + fault);
+    }
     EXPECT_EQ(image.Faults().size(), std::size(faults));
 }
 

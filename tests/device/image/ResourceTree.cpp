@@ -11,22 +11,23 @@ struct Child
     std::uint32_t place;
 };
 
-constexpr std::uint32_t tableBit = 0x80000000;
+} // namespace
 
-std::vector<Child> ReadTable(const ByteView& tree, std::uint32_t place, bool childrenAreTables)
+static constexpr std::uint32_t tableBit = 0x80000000;
+
+static std::vector<Child> ReadTable(const ByteView& tree, std::uint32_t place, bool childrenAreTables)
 {
     std::vector<Child> children;
     const std::uint32_t count = tree.U16(place + 12) + tree.U16(place + 14);
     for (std::uint32_t index = 0; index < count; index++) {
         const ByteView row = tree.Part(place + 16 + 8 * std::uint64_t{index}, 8);
-        if (((row.U32(4) & tableBit) != 0) != childrenAreTables)
+        if (((row.U32(4) & tableBit) != 0) != childrenAreTables) {
             throw std::runtime_error("they do not have three levels");
+        }
         children.push_back({row.U32(0), row.U32(4) & ~tableBit});
     }
     return children;
 }
-
-} // namespace
 
 std::vector<ResourceItem> ReadResources(const ImageView& image)
 {

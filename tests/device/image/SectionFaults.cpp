@@ -11,11 +11,13 @@ struct ExpectedSection
     std::uint32_t characteristics;
 };
 
+} // namespace
+
 // Data, read; code, execute and read; data, read and write.
-const ExpectedSection expectedSections[] = {
+static const ExpectedSection expectedSections[] = {
     {".rsrc", 0x40000040}, {".text", 0x60000020}, {".data", 0xC0000040}};
 
-void FindKindFaults(const std::vector<ImageSection>& sections, Complaints& complaints)
+static void FindKindFaults(const std::vector<ImageSection>& sections, Complaints& complaints)
 {
     for (std::size_t index = 0; index < sections.size(); index++) {
         const ExpectedSection& expected = expectedSections[index];
@@ -27,7 +29,7 @@ void FindKindFaults(const std::vector<ImageSection>& sections, Complaints& compl
 }
 
 // The bytes of the file are those of the memory.
-void FindPlaceFaults(const std::vector<ImageSection>& sections, Complaints& complaints)
+static void FindPlaceFaults(const std::vector<ImageSection>& sections, Complaints& complaints)
 {
     std::uint64_t end = pageSize;
     for (const ImageSection& section : sections) {
@@ -42,8 +44,8 @@ void FindPlaceFaults(const std::vector<ImageSection>& sections, Complaints& comp
     }
 }
 
-void FindMemoryFaults(const std::vector<ImageSection>& sections, const ElfFile& linked,
-                      Complaints& complaints)
+static void FindMemoryFaults(const std::vector<ImageSection>& sections, const ElfFile& linked,
+                             Complaints& complaints)
 {
     for (const ImageSection& section : sections) {
         const std::uint64_t memorySize = WholePages(section.memory.size);
@@ -56,14 +58,13 @@ void FindMemoryFaults(const std::vector<ImageSection>& sections, const ElfFile& 
                             linked.MemoryEnd() - 0x10000);
 }
 
-} // namespace
-
 void FindSectionFaults(const ImageView& image, const ElfFile& linked, Complaints& complaints)
 {
     const std::vector<ImageSection>& sections = image.Sections();
     complaints.RequireEqual("the number of sections", sections.size(), std::size(expectedSections));
-    if (sections.size() != std::size(expectedSections))
+    if (sections.size() != std::size(expectedSections)) {
         return;
+    }
     FindKindFaults(sections, complaints);
     FindPlaceFaults(sections, complaints);
     FindMemoryFaults(sections, linked, complaints);

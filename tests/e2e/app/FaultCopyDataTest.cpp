@@ -3,12 +3,8 @@
 
 using namespace rig;
 
-namespace {
-
-constexpr ULONG_PTR ButtonRecord = 1;
-constexpr size_t RecordSize = 1036;
-
-} // namespace
+static constexpr ULONG_PTR buttonRecord = 1;
+static constexpr size_t recordSize = 1036;
 
 class FaultCopyDataTest : public ShellSession
 {
@@ -20,15 +16,16 @@ class FaultCopyDataTest : public ShellSession
                                bytes.empty() ? nullptr : const_cast<unsigned char*>(bytes.data())};
         DWORD_PTR answer = 99;
         if (!SendMessageTimeoutW(main, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_NORMAL, 10000,
-                                 &answer))
+                                 &answer)) {
             return 99;
+        }
         return static_cast<LRESULT>(answer);
     }
 
     // A whole record: a button without a key, two actions, and the rest of the bytes.
     static std::vector<unsigned char> Record(int press, int hold, unsigned char filling)
     {
-        std::vector<unsigned char> bytes(RecordSize, filling);
+        std::vector<unsigned char> bytes(recordSize, filling);
         const int32_t numbers[] = {193, press, hold};
         memcpy(bytes.data(), numbers, sizeof(numbers));
         return bytes;
@@ -44,22 +41,23 @@ class FaultCopyDataTest : public ShellSession
 
 TEST_F(FaultCopyDataTest, RecordsOfOtherKinds)
 {
-    for (ULONG_PTR kind : {ULONG_PTR{0}, ULONG_PTR{2}, ULONG_PTR{0x8064}, ~ULONG_PTR{0}})
+    for (ULONG_PTR kind : {ULONG_PTR{0}, ULONG_PTR{2}, ULONG_PTR{0x8064}, ~ULONG_PTR{0}}) {
         EXPECT_EQ(TRUE, Hand(kind, Record(4, 4, 0))) << kind;
+    }
     ExpectGoesOn();
 }
 
 TEST_F(FaultCopyDataTest, RecordsOfOtherLengths)
 {
     const std::vector<unsigned char> whole = Record(4, 4, 0);
-    for (size_t size : {size_t{0}, size_t{1}, size_t{4}, size_t{12}, RecordSize - 1}) {
+    for (size_t size : {size_t{0}, size_t{1}, size_t{4}, size_t{12}, recordSize - 1}) {
         const std::vector<unsigned char> cut(whole.begin(), whole.begin() + static_cast<int>(size));
-        EXPECT_EQ(TRUE, Hand(ButtonRecord, cut)) << size;
+        EXPECT_EQ(TRUE, Hand(buttonRecord, cut)) << size;
     }
-    for (size_t size : {RecordSize + 1, 2 * RecordSize, size_t{1000000}}) {
+    for (size_t size : {recordSize + 1, 2 * recordSize, size_t{1000000}}) {
         std::vector<unsigned char> longer = whole;
         longer.resize(size);
-        EXPECT_EQ(TRUE, Hand(ButtonRecord, longer)) << size;
+        EXPECT_EQ(TRUE, Hand(buttonRecord, longer)) << size;
     }
     ExpectGoesOn();
 }
@@ -67,24 +65,26 @@ TEST_F(FaultCopyDataTest, RecordsOfOtherLengths)
 TEST_F(FaultCopyDataTest, TextsWithoutAnEnd)
 {
     // Actions that do nothing, with files that fill the record to its last byte.
-    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(1, 1, 'f')));
-    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(0, 0, 0xFF)));
-    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(1, 1, '%')));
+    EXPECT_EQ(TRUE, Hand(buttonRecord, Record(1, 1, 'f')));
+    EXPECT_EQ(TRUE, Hand(buttonRecord, Record(0, 0, 0xFF)));
+    EXPECT_EQ(TRUE, Hand(buttonRecord, Record(1, 1, '%')));
     ExpectGoesOn();
 }
 
 TEST_F(FaultCopyDataTest, ActionsThatDoNotExist)
 {
-    for (int action : {13, 100, 0x7FFFFFFF, -1, INT_MIN})
-        EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(action, action, 0))) << action;
+    for (int action : {13, 100, 0x7FFFFFFF, -1, INT_MIN}) {
+        EXPECT_EQ(TRUE, Hand(buttonRecord, Record(action, action, 0))) << action;
+    }
     ExpectGoesOn();
 }
 
 TEST_F(FaultCopyDataTest, AThousandOfThem)
 {
     const std::vector<unsigned char> record = Record(1, 1, 'x');
-    for (int i = 0; i < 1000; i++)
-        ASSERT_EQ(TRUE, Hand(ButtonRecord, record)) << i;
+    for (int i = 0; i < 1000; i++) {
+        ASSERT_EQ(TRUE, Hand(buttonRecord, record)) << i;
+    }
     ExpectGoesOn();
 }
 
@@ -93,7 +93,7 @@ TEST_F(FaultCopyDataTest, WhileADialogIsOpen)
     const HWND dialog = OpenReport();
     ASSERT_TRUE(dialog);
     EXPECT_EQ(TRUE, Hand(2, Record(4, 4, 0)));
-    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(1, 1, 'f')));
+    EXPECT_EQ(TRUE, Hand(buttonRecord, Record(1, 1, 'f')));
     EXPECT_TRUE(IsWindow(dialog));
     ASSERT_TRUE(InFront(dialog));
     PressKey(VK_RETURN);
@@ -104,7 +104,7 @@ TEST_F(FaultCopyDataTest, WhileADialogIsOpen)
 TEST_F(FaultCopyDataTest, WhileTheMenuIsOpen)
 {
     ASSERT_TRUE(PressMenuKey());
-    EXPECT_EQ(TRUE, Hand(ButtonRecord, Record(1, 1, 'f')));
+    EXPECT_EQ(TRUE, Hand(buttonRecord, Record(1, 1, 'f')));
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(WaitFor([] { return !OpenMenu(); }));
     ExpectGoesOn();

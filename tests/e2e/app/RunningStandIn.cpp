@@ -28,18 +28,20 @@ DWORD WINAPI RunningStandIn::Run(void* parameter)
                                    nullptr, nullptr, windowClass.hInstance, self);
     SetEvent(self->ready);
     MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         DispatchMessageW(&message);
+    }
     UnregisterClassW(L"QuorvaneApp", windowClass.hInstance);
     return 0;
 }
 
 LRESULT CALLBACK RunningStandIn::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message == WM_NCCREATE)
+    if (message == WM_NCCREATE) {
         SetWindowLongPtrW(
             window, GWLP_USERDATA,
             reinterpret_cast<LONG_PTR>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams));
+    }
     auto* self = reinterpret_cast<RunningStandIn*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message == WM_COPYDATA && self) {
         const auto* data = reinterpret_cast<const COPYDATASTRUCT*>(lParam);
@@ -47,7 +49,8 @@ LRESULT CALLBACK RunningStandIn::Procedure(HWND window, UINT message, WPARAM wPa
         self->records.push_back({data->dwData, {first, first + data->cbData}});
         return TRUE;
     }
-    if (message == WM_DESTROY)
+    if (message == WM_DESTROY) {
         PostQuitMessage(0);
+    }
     return DefWindowProcW(window, message, wParam, lParam);
 }

@@ -6,11 +6,7 @@
 
 using namespace rig;
 
-namespace {
-
-constexpr COLORREF Orange = RGB(250, 120, 10);
-
-} // namespace
+static constexpr COLORREF orange = RGB(250, 120, 10);
 
 class ShellHideTest : public ShellSession
 {
@@ -25,7 +21,7 @@ class ShellHideTest : public ShellSession
     void StartAgain() const
     {
         const ChildProcess second(ProgramFolder() + L"\\Quorvane.exe", L"");
-        EXPECT_EQ(0u, second.ExitCode(Patience));
+        EXPECT_EQ(0u, second.ExitCode(patience));
     }
 };
 
@@ -33,14 +29,14 @@ TEST_F(ShellHideTest, TheNextProgramComesToTheFront)
 {
     const Actor actor;
     const RECT screen = ScreenRect();
-    const HWND window = actor.Make({.place = {0, Scaled(26), screen.right, screen.bottom}, .colour = Orange});
+    const HWND window = actor.Make({.place = {0, Scaled(26), screen.right, screen.bottom}, .colour = orange});
     ASSERT_TRUE(InFront(window));
     ASSERT_TRUE(ComeToFront());
     Hide();
     EXPECT_TRUE(InFront(window));
     // Nothing of the program is left on the screen, its soft keys included.
     const int whole = screen.right * (screen.bottom - Scaled(26));
-    EXPECT_TRUE(WaitFor([=] { return Picture::OfScreen().Count(Orange) == whole; }));
+    EXPECT_TRUE(WaitFor([=] { return Picture::OfScreen().Count(orange) == whole; }));
     EXPECT_TRUE(program->IsRunning());
 }
 

@@ -4,27 +4,28 @@
 
 using namespace rig;
 
-namespace {
-
 // Of the first page. The misspelt words are meant so.
-const std::vector<MenuLine> TasksMenu = {{L"Switch to appliction"},
-                                         {L"Close application"},
-                                         {},
-                                         {L"Close all"},
-                                         {},
-                                         {L"Application info"},
-                                         {L"Windows list"},
-                                         {},
-                                         {L"Refresh"},
-                                         {},
-                                         {L"View", false, true},
-                                         {},
-                                         {L"More", false, true},
-                                         {},
-                                         {L"Exit"}};
-constexpr size_t ViewLine = 10;
+static const std::vector<MenuLine> tasksMenu = {{L"Switch to appliction"},
+                                                {L"Close application"},
+                                                {},
+                                                {L"Close all"},
+                                                {},
+                                                {L"Application info"},
+                                                {L"Windows list"},
+                                                {},
+                                                {L"Refresh"},
+                                                {},
+                                                {L"View", false, true},
+                                                {},
+                                                {L"More", false, true},
+                                                {},
+                                                {L"Exit"}};
+static constexpr size_t viewLine = 10;
 
-const std::vector<MenuLine> ViewMenu = {{L"Runnig apps"}, {L"Start"}, {L"System info"}, {L"Processes"}};
+static const std::vector<MenuLine> viewMenu = {
+    {L"Runnig apps"}, {L"Start"}, {L"System info"}, {L"Processes"}};
+
+namespace {
 
 struct ResourceLine
 {
@@ -33,7 +34,9 @@ struct ResourceLine
     bool operator==(const ResourceLine&) const = default;
 };
 
-std::vector<ResourceLine> LinesOf(HMENU menu)
+} // namespace
+
+static std::vector<ResourceLine> LinesOf(HMENU menu)
 {
     std::vector<ResourceLine> lines;
     for (int i = 0; i < GetMenuItemCount(menu); i++) {
@@ -43,6 +46,8 @@ std::vector<ResourceLine> LinesOf(HMENU menu)
     }
     return lines;
 }
+
+namespace {
 
 // The program's file, to look its menus up in.
 class ProgramFile
@@ -63,8 +68,9 @@ class ShellMenuTest : public ShellSession
     size_t OpenMenus() const
     {
         size_t count = 0;
-        for (HWND window : TopWindows())
+        for (HWND window : TopWindows()) {
             count += IsWindowVisible(window) && ClassOf(window) == L"#32768" ? 1 : 0;
+        }
         return count;
     }
 
@@ -86,7 +92,7 @@ class ShellMenuTest : public ShellSession
     MenuTwin Twin() const
     {
         const RECT bar = ScreenRectOf(BarOf(main));
-        return MenuTwin(TasksMenu, {bar.right, bar.top}, TPM_RIGHTALIGN | TPM_BOTTOMALIGN);
+        return MenuTwin(tasksMenu, {bar.right, bar.top}, TPM_RIGHTALIGN | TPM_BOTTOMALIGN);
     }
 };
 
@@ -128,11 +134,12 @@ TEST_F(ShellMenuTest, EveryPagesMenuEndsTheSame)
 
 TEST_F(ShellMenuTest, TheViewMenuShowsThePagesFromEveryPage)
 {
-    for (int from : PageRing) {
+    for (int from : pageRing) {
         for (int downs = 0; downs < 4; downs++) {
-            const int to = PageRing[downs];
-            if (to == from)
+            const int to = pageRing[downs];
+            if (to == from) {
                 continue;
+            }
             const int commands[] = {0, ShowTasksCommand, ShowSysInfoCommand, ShowStartCommand,
                                     ShowProcsCommand};
             program->Command(commands[from]);
@@ -164,7 +171,7 @@ TEST_F(ShellMenuTest, TheViewMenuLooksAsItShould)
     const Picture shown = Picture::OfScreen(area);
     PressKey(VK_ESCAPE, 2);
     ExpectMenus(0);
-    const MenuTwin twin(ViewMenu, {area.left, area.top}, 0);
+    const MenuTwin twin(viewMenu, {area.left, area.top}, 0);
     EXPECT_EQ(twin.Look().Width(), shown.Width());
     EXPECT_EQ(twin.Look().Height(), shown.Height());
     // The last line is marked, the others are as they are.
@@ -172,8 +179,9 @@ TEST_F(ShellMenuTest, TheViewMenuLooksAsItShould)
     const POINT third = twin.Middle(2);
     const LONG end = (third.y + last.y) / 2 - area.top;
     for (LONG y = 0; y < end; y++) {
-        for (LONG x = 0; x < shown.Width(); x++)
+        for (LONG x = 0; x < shown.Width(); x++) {
             ASSERT_EQ(twin.Look().At(x, y), shown.At(x, y)) << x << ", " << y;
+        }
     }
 }
 
@@ -181,7 +189,7 @@ TEST_F(ShellMenuTest, TapsChooseInTheViewMenu)
 {
     // Near the line's beginning: the submenu, which has no room beside its menu, covers the rest.
     const MenuTwin twin = Twin();
-    const POINT view = {twin.Area().left + Scaled(20), twin.Middle(ViewLine).y};
+    const POINT view = {twin.Area().left + Scaled(20), twin.Middle(viewLine).y};
     const HWND first = PressMenuKey();
     ASSERT_TRUE(first);
     Picture::OfSettledScreen();
@@ -192,8 +200,9 @@ TEST_F(ShellMenuTest, TapsChooseInTheViewMenu)
     ASSERT_EQ(2u, OpenMenus());
     HWND second = nullptr;
     for (HWND window : TopWindows()) {
-        if (IsWindowVisible(window) && ClassOf(window) == L"#32768" && window != first)
+        if (IsWindowVisible(window) && ClassOf(window) == L"#32768" && window != first) {
             second = window;
+        }
     }
     // The submenu has four lines of the same height within its frame.
     const RECT area = ScreenRectOf(second);

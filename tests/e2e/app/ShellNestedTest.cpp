@@ -103,7 +103,7 @@ TEST_F(ShellNestedTest, AnotherStartBringsTheNewestDialogForward)
     const HWND home = FindTopWindow({.className = L"DesktopExplorerWindow"});
     ASSERT_TRUE(BringToFront(home));
     const ChildProcess second(ProgramFolder() + L"\\Quorvane.exe", L"");
-    EXPECT_EQ(0u, second.ExitCode(Patience));
+    EXPECT_EQ(0u, second.ExitCode(patience));
     EXPECT_TRUE(InFront(report));
     EXPECT_FALSE(IsWindowEnabled(main));
     PressKey(VK_RETURN);

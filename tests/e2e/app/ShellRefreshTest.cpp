@@ -7,18 +7,14 @@ using namespace rig;
 using std::chrono::milliseconds;
 using Clock = std::chrono::steady_clock;
 
-namespace {
-
-constexpr milliseconds Period{7500};
+static constexpr milliseconds period{7500};
 // What the machine may add to a time that the program keeps.
-constexpr milliseconds Slack{2500};
+static constexpr milliseconds slack{2500};
 
-milliseconds Since(Clock::time_point start)
+static milliseconds Since(Clock::time_point start)
 {
     return std::chrono::duration_cast<milliseconds>(Clock::now() - start);
 }
-
-} // namespace
 
 class ShellRefreshTest : public ShellSession
 {
@@ -50,16 +46,16 @@ TEST_F(ShellRefreshTest, WhileActiveEverySevenAndAHalfSeconds)
     Send(main, WM_NULL);
     ShowSilently(window);
     ASSERT_EQ(before, Rows()) << "it was refreshed already";
-    EXPECT_TRUE(WaitFor([&] { return Rows() == before + 1; }, Period + Slack)) << "it was not refreshed";
-    EXPECT_GE(Since(beforeActivation), Period - milliseconds(100));
-    EXPECT_LE(Since(activated), Period + Slack);
+    EXPECT_TRUE(WaitFor([&] { return Rows() == before + 1; }, period + slack)) << "it was not refreshed";
+    EXPECT_GE(Since(beforeActivation), period - milliseconds(100));
+    EXPECT_LE(Since(activated), period + slack);
     EXPECT_EQ(main, GetForegroundWindow());
 
     // And once more; a timer that ran out only once would not do.
     const auto second = Clock::now();
     actor.Vanish(window);
     ASSERT_EQ(before + 1, Rows());
-    EXPECT_TRUE(WaitFor([&] { return Rows() == before; }, Period + Slack)) << "it was not refreshed again";
+    EXPECT_TRUE(WaitFor([&] { return Rows() == before; }, period + slack)) << "it was not refreshed again";
     EXPECT_GE(Since(second), milliseconds(5000));
 }
 
@@ -73,7 +69,7 @@ TEST_F(ShellRefreshTest, NotWhileAnotherProgramIsActiveButAtOnceAfterwards)
     Send(main, WM_NULL);
     const auto inactive = Clock::now();
     ShowSilently(silent);
-    WaitFor([&] { return Rows() != before; }, Period + milliseconds(1000));
+    WaitFor([&] { return Rows() != before; }, period + milliseconds(1000));
     EXPECT_EQ(before, Rows()) << "it was refreshed after " << Since(inactive).count() << " ms";
     ASSERT_EQ(home, GetForegroundWindow());
 

@@ -24,15 +24,16 @@ class ShellSoftKeysTest : public ShellSession
 TEST_F(ShellSoftKeysTest, EveryPageHasABarOfItsOwnAtTheSamePlace)
 {
     const RECT first = ScreenRectOf(BarOf(main));
-    for (int page : PageRing) {
+    for (int page : pageRing) {
         ASSERT_TRUE(program->WaitForPage(page));
         const HWND bar = WaitFor([&] { return BarOf(main); });
         ASSERT_TRUE(bar) << page;
         const RECT rect = ScreenRectOf(bar);
         EXPECT_TRUE(EqualRect(&first, &rect)) << page;
         int bars = 0;
-        for (HWND window : TopWindows())
+        for (HWND window : TopWindows()) {
             bars += ClassOf(window) == L"menu_worker" && ProcessOf(window) == program->Process() ? 1 : 0;
+        }
         EXPECT_EQ(1, bars) << "the bar of the page before is left over on page " << page;
         ASSERT_TRUE(PressMenuKey()) << page;
         MenuKeys(VK_ESCAPE);

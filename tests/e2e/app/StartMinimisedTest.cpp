@@ -5,12 +5,8 @@
 
 using namespace rig;
 
-namespace {
-
 // A button whose actions do nothing.
-constexpr wchar_t IdleButton[] = L"193 1*1";
-
-} // namespace
+static constexpr wchar_t idleButton[] = L"193 1*1";
 
 class StartMinimisedTest : public ShellSession
 {
@@ -39,7 +35,7 @@ TEST_F(StartMinimisedTest, ItStaysBehindTheHomeScreen)
 {
     const RECT area = {0, Scaled(26), ScreenRect().right, ScreenRect().bottom};
     const Picture before = (Picture::OfSettledScreen(), Picture::OfScreen(area));
-    Launch(IdleButton);
+    Launch(idleButton);
     ExpectInBackground();
     EXPECT_TRUE(WaitFor([&] { return Picture::OfScreen(area) == before; })) << "the screen has changed";
     EXPECT_TRUE(program->IsRunning());
@@ -47,10 +43,10 @@ TEST_F(StartMinimisedTest, ItStaysBehindTheHomeScreen)
 
 TEST_F(StartMinimisedTest, ANormalStartBringsItForwardReadyForKeys)
 {
-    Launch(IdleButton);
+    Launch(idleButton);
     ExpectInBackground();
     const ChildProcess second(ProgramFolder() + L"\\Quorvane.exe", L"");
-    EXPECT_EQ(0u, second.ExitCode(Patience));
+    EXPECT_EQ(0u, second.ExitCode(patience));
     ASSERT_TRUE(InFront(main));
     EXPECT_TRUE(WaitFor([&] { return BarOf(main); })) << "it has no soft keys";
     ExpectKeysReachThePage(TasksPage);
@@ -58,20 +54,21 @@ TEST_F(StartMinimisedTest, ANormalStartBringsItForwardReadyForKeys)
 
 TEST_F(StartMinimisedTest, AnotherButtonLeavesItInTheBackground)
 {
-    Launch(IdleButton);
+    Launch(idleButton);
     ExpectInBackground();
-    const ChildProcess second(ProgramFolder() + L"\\Quorvane.exe", IdleButton);
-    EXPECT_EQ(0u, second.ExitCode(Patience));
+    const ChildProcess second(ProgramFolder() + L"\\Quorvane.exe", idleButton);
+    EXPECT_EQ(0u, second.ExitCode(patience));
     ExpectInBackground();
     int mains = 0;
-    for (HWND window : TopWindows())
+    for (HWND window : TopWindows()) {
         mains += ClassOf(window) == L"QuorvaneApp" ? 1 : 0;
+    }
     EXPECT_EQ(1, mains);
 }
 
 TEST_F(StartMinimisedTest, ItCanBeClosed)
 {
-    Launch(IdleButton);
+    Launch(idleButton);
     ExpectInBackground();
     PostMessageW(main, WM_CLOSE, 0, 0);
     ExpectEnd();

@@ -17,14 +17,16 @@ struct Handed
     std::wstring holdFile;
 };
 
-int32_t NumberAt(const std::vector<std::byte>& record, size_t offset)
+} // namespace
+
+static int32_t NumberAt(const std::vector<std::byte>& record, size_t offset)
 {
     int32_t number = 0;
     memcpy(&number, record.data() + offset, sizeof(number));
     return number;
 }
 
-std::wstring TextAt(const std::vector<std::byte>& record, size_t offset)
+static std::wstring TextAt(const std::vector<std::byte>& record, size_t offset)
 {
     wchar_t text[256];
     memcpy(text, record.data() + offset, sizeof(text));
@@ -32,8 +34,6 @@ std::wstring TextAt(const std::vector<std::byte>& record, size_t offset)
     text[255] = L'\0';
     return text;
 }
-
-} // namespace
 
 class StartSecondTest : public testing::Test
 {
@@ -138,8 +138,9 @@ TEST_F(StartSecondTest, WithoutACommandLineTheRunningProgramComesForward)
 TEST_F(StartSecondTest, AMalformedCommandLineIsANormalStart)
 {
     for (const wchar_t* line :
-         {L"193", L"193 3", L"193*3", L"*", L"3*9", L"x 3*9", L"0 3*9", L"*1 2", L" * *"})
+         {L"193", L"193 3", L"193*3", L"*", L"3*9", L"x 3*9", L"0 3*9", L"*1 2", L" * *"}) {
         ExpectNormalStart(line);
+    }
 }
 
 TEST_F(StartSecondTest, AHostileCommandLineIsANormalStart)

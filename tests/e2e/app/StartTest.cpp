@@ -5,27 +5,23 @@
 
 using namespace rig;
 
-namespace {
+static constexpr COLORREF white = RGB(255, 255, 255);
+static constexpr COLORREF black = RGB(0, 0, 0);
 
-constexpr COLORREF White = RGB(255, 255, 255);
-constexpr COLORREF Black = RGB(0, 0, 0);
-
-bool operator==(const RECT& one, const RECT& other)
+static bool operator==(const RECT& one, const RECT& other)
 {
     return EqualRect(&one, &other) != FALSE;
 }
 
-std::string Text(const RECT& rect)
+static std::string Text(const RECT& rect)
 {
     return testing::PrintToString(std::vector<LONG>{rect.left, rect.top, rect.right, rect.bottom});
 }
 
-void ExpectRect(const RECT& expected, const RECT& actual)
+static void ExpectRect(const RECT& expected, const RECT& actual)
 {
     EXPECT_TRUE(expected == actual) << Text(expected) << " expected, it is " << Text(actual);
 }
-
-} // namespace
 
 class StartTest : public ShellSession
 {};
@@ -65,7 +61,7 @@ TEST_F(StartTest, TheWindowReachesFromTheTopBarToTheSoftKeys)
 
 TEST_F(StartTest, EveryPageFillsTheWindowWithItsStripAndTheListBelow)
 {
-    for (int page : PageRing) {
+    for (int page : pageRing) {
         ASSERT_TRUE(program->WaitForPage(page));
         const RECT area = ScreenRectOf(main);
         ExpectRect(area, ScreenRectOf(program->Page(page)));
@@ -76,10 +72,11 @@ TEST_F(StartTest, EveryPageFillsTheWindowWithItsStripAndTheListBelow)
         EXPECT_EQ(area.left, list.left) << page;
         EXPECT_EQ(area.top + strip, list.top) << page;
         EXPECT_EQ(area.right, list.right) << page;
-        if (page == LauncherPage)
+        if (page == LauncherPage) {
             EXPECT_LE(list.bottom, area.bottom);
-        else
+        } else {
             EXPECT_EQ(area.bottom, list.bottom) << page;
+        }
         PressKey(VK_RIGHT);
     }
     EXPECT_TRUE(program->WaitForPage(TasksPage));
@@ -95,7 +92,7 @@ TEST_F(StartTest, TheStripHasItsLineItsArrowsAndItsTitle)
     const LONG middle = area.top + (height - arrow) / 2 + arrow / 2;
     const auto asPainted = [&] {
         const Picture now = Picture::OfScreen();
-        return now.At(tip + 1, middle) == Black && now.At(0, area.top + height - 1) == Black;
+        return now.At(tip + 1, middle) == black && now.At(0, area.top + height - 1) == black;
     };
     EXPECT_TRUE(WaitFor(asPainted));
     const Picture screen = Picture::OfSettledScreen();
@@ -103,31 +100,31 @@ TEST_F(StartTest, TheStripHasItsLineItsArrowsAndItsTitle)
 
     // The line at the strip's lower edge, over the whole width.
     const RECT line = {area.left, area.top + height - 1, area.right, area.top + height};
-    EXPECT_EQ(area.right - area.left, screen.Count(Black, line));
+    EXPECT_EQ(area.right - area.left, screen.Count(black, line));
 
     // The strip's ground, at the outer ends and between line and arrow.
-    EXPECT_EQ(White, at(0, area.top));
-    EXPECT_EQ(White, at(area.right - 1, area.top));
-    EXPECT_EQ(White, at(tip - 1, middle));
-    EXPECT_EQ(White, at(area.right - tip + 1, middle));
+    EXPECT_EQ(white, at(0, area.top));
+    EXPECT_EQ(white, at(area.right - 1, area.top));
+    EXPECT_EQ(white, at(tip - 1, middle));
+    EXPECT_EQ(white, at(area.right - tip + 1, middle));
     // The heads point outwards: long at the inner end, a dot or nothing at the tip.
-    EXPECT_EQ(Black, at(tip + 1, middle));
-    EXPECT_EQ(Black, at(area.right - tip - 1, middle));
+    EXPECT_EQ(black, at(tip + 1, middle));
+    EXPECT_EQ(black, at(area.right - tip - 1, middle));
     const LONG inner = tip + arrow / 2;
     const RECT leftInner = {inner, area.top, inner + 1, area.top + height - Scaled(1)};
-    EXPECT_EQ(arrow, screen.Count(Black, leftInner));
-    EXPECT_EQ(White, at(inner + 1, middle));
+    EXPECT_EQ(arrow, screen.Count(black, leftInner));
+    EXPECT_EQ(white, at(inner + 1, middle));
     const LONG rightInner = area.right - tip - arrow / 2;
     const RECT rightColumn = {rightInner, area.top, rightInner + 1, area.top + height - Scaled(1)};
-    EXPECT_EQ(arrow, screen.Count(Black, rightColumn));
-    EXPECT_EQ(White, at(rightInner - 1, middle));
+    EXPECT_EQ(arrow, screen.Count(black, rightColumn));
+    EXPECT_EQ(white, at(rightInner - 1, middle));
 
     // The title begins behind the left head and leaves the right one alone.
     const LONG from = Scaled(6) + arrow;
     const RECT title = {from, area.top, area.right - from, area.top + height - Scaled(1)};
-    EXPECT_LT(screen.Count(White, title), (title.right - title.left) * (title.bottom - title.top));
+    EXPECT_LT(screen.Count(white, title), (title.right - title.left) * (title.bottom - title.top));
     const RECT firstLetter = {from, area.top, from + Scaled(12), area.top + height - Scaled(1)};
-    EXPECT_LT(screen.Count(White, firstLetter), Scaled(12) * (height - Scaled(1)));
+    EXPECT_LT(screen.Count(white, firstLetter), Scaled(12) * (height - Scaled(1)));
 }
 
 TEST_F(StartTest, TheSoftKeysAreWrittenInLightLettersOnADarkBar)
@@ -137,7 +134,7 @@ TEST_F(StartTest, TheSoftKeysAreWrittenInLightLettersOnADarkBar)
     const LONG middle = bar.right / 2;
     const auto lettersOf = [&](const Picture& screen, int key) {
         const RECT half = {key == 0 ? bar.left : middle, bar.top, key == 0 ? middle : bar.right, bar.bottom};
-        return screen.Count(White, half);
+        return screen.Count(white, half);
     };
     EXPECT_TRUE(WaitFor([&] {
         const Picture now = Picture::OfScreen();
@@ -149,8 +146,8 @@ TEST_F(StartTest, TheSoftKeysAreWrittenInLightLettersOnADarkBar)
         EXPECT_LT(lettersOf(screen, key), (half.right - half.left) * (half.bottom - half.top) / 4) << key;
         // The words stand in the middle of their halves.
         const LONG quarter = (half.right - half.left) / 8;
-        EXPECT_EQ(0, screen.Count(White, {half.left, half.top, half.left + quarter, half.bottom})) << key;
-        EXPECT_EQ(0, screen.Count(White, {half.right - quarter, half.top, half.right, half.bottom})) << key;
+        EXPECT_EQ(0, screen.Count(white, {half.left, half.top, half.left + quarter, half.bottom})) << key;
+        EXPECT_EQ(0, screen.Count(white, {half.right - quarter, half.top, half.right, half.bottom})) << key;
     }
 }
 

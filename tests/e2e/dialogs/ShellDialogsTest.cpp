@@ -14,7 +14,11 @@ enum class Way
     Sent
 };
 
-constexpr Way AllWays[] = {Way::ExitCommand, Way::Posted, Way::Sent};
+} // namespace
+
+static constexpr Way allWays[] = {Way::ExitCommand, Way::Posted, Way::Sent};
+
+namespace {
 
 // What is open.
 enum class Above
@@ -28,8 +32,12 @@ enum class Above
     WindowsList
 };
 
-constexpr Above AllAbove[] = {Above::Menu,   Above::Submenu, Above::PopUp,      Above::About,
-                              Above::Notice, Above::Report,  Above::WindowsList};
+} // namespace
+
+static constexpr Above allAbove[] = {Above::Menu,   Above::Submenu, Above::PopUp,      Above::About,
+                                     Above::Notice, Above::Report,  Above::WindowsList};
+
+namespace {
 
 struct Case
 {
@@ -37,24 +45,25 @@ struct Case
     Way way;
 };
 
-std::vector<Case> AllCases()
+} // namespace
+
+static std::vector<Case> AllCases()
 {
     std::vector<Case> cases;
-    for (Above above : AllAbove) {
-        for (Way way : AllWays)
+    for (Above above : allAbove) {
+        for (Way way : allWays) {
             cases.push_back({above, way});
+        }
     }
     return cases;
 }
 
-std::string NameOf(const testing::TestParamInfo<Case>& info)
+static std::string NameOf(const testing::TestParamInfo<Case>& info)
 {
     const char* above[] = {"Menu", "Submenu", "PopUp", "About", "Notice", "Report", "WindowsList"};
     const char* way[] = {"ByExit", "Posted", "Sent"};
     return std::string(above[static_cast<int>(info.param.above)]) + way[static_cast<int>(info.param.way)];
 }
-
-} // namespace
 
 class ShellDialogsTest : public ShellSession, public testing::WithParamInterface<Case>
 {

@@ -111,15 +111,16 @@ TEST_F(WindowReportE2eTest, OwnersAreNamedAndTheTopmostOnlyWhenItIsAnother)
     Select(1);
     EXPECT_FALSE(Has(Report(), L"wner"));
 
-    program->Command(CommandWindowsList);
+    program->Command(commandWindowsList);
     const HWND dialog = program->WaitForDialog();
     const HWND tree = FindDescendant(dialog, L"SysTreeView32", 1000);
     const auto reportOn = [&](HWND window) {
         for (const TreeItem& item : TreeItems(tree)) {
-            if (item.data == reinterpret_cast<LPARAM>(window))
+            if (item.data == reinterpret_cast<LPARAM>(window)) {
                 Send(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item.handle));
+            }
         }
-        PostMessageW(dialog, WM_COMMAND, CommandWindowInfo, 0);
+        PostMessageW(dialog, WM_COMMAND, commandWindowInfo, 0);
         const HWND info = WaitFor([&] {
             const HWND shown = program->Dialog();
             return shown != dialog && FindDescendant(shown, L"Edit", 126) ? shown : nullptr;
@@ -167,8 +168,9 @@ TEST_F(WindowReportE2eTest, TitlesAreCutAtTwoHundredFiftyNineCharacters)
 {
     for (size_t length : {255u, 258u, 259u, 260u, 261u, 299u}) {
         std::wstring title;
-        while (title.size() < length)
+        while (title.size() < length) {
             title += static_cast<wchar_t>(L'a' + title.size() % 26);
+        }
         const HWND window = actor.Make(Task(title));
         const std::wstring report = ReportOnSecondRow();
         EXPECT_EQ(window, ReportedWindow(report));
@@ -214,7 +216,7 @@ TEST_F(WindowReportE2eTest, AWindowThatHasGoneGivesANoticeAndNoDialog)
     Select(1);
     actor.Vanish(a);
     ASSERT_EQ(3, ListCount(list)) << "refreshed too early";
-    program->Command(CommandInfo);
+    program->Command(commandInfo);
     const HWND notice = WaitForNotice();
     ASSERT_TRUE(notice);
     EXPECT_TRUE(NoticeSays(Main(), notice, L"Window is no longer exists."));
@@ -225,7 +227,7 @@ TEST_F(WindowReportE2eTest, EnterAndTheLeftSoftKeyCloseIt)
 {
     Front();
     for (WORD key : {VK_RETURN, VK_F1}) {
-        program->Command(CommandInfo);
+        program->Command(commandInfo);
         const HWND dialog = program->WaitForDialog();
         ASSERT_TRUE(dialog);
         ASSERT_TRUE(WaitFor([=] { return GetForegroundWindow() == dialog; }));

@@ -27,16 +27,17 @@ std::ostream& operator<<(std::ostream& stream, const Line& line)
     return stream << line.depth << " " << testing::PrintToString(line.text) << " " << line.window;
 }
 
-std::vector<Line> LinesOf(const std::vector<TreeItem>& items)
+} // namespace
+
+static std::vector<Line> LinesOf(const std::vector<TreeItem>& items)
 {
     std::vector<Line> lines;
-    for (const TreeItem& item : items)
+    for (const TreeItem& item : items) {
         lines.push_back(
             {item.depth, item.text, item.data == -1 ? nullptr : reinterpret_cast<HWND>(item.data)});
+    }
     return lines;
 }
-
-} // namespace
 
 class WindowsListE2eTest : public TasksScreen
 {
@@ -50,7 +51,7 @@ class WindowsListE2eTest : public TasksScreen
     {
         Front();
         Select(1);
-        program->Command(CommandWindowsList);
+        program->Command(commandWindowsList);
         dialog = program->WaitForDialog();
         tree = FindDescendant(dialog, L"SysTreeView32", 1000);
         ASSERT_TRUE(WaitFor([&] { return FocusOf(dialog) == tree; }));
@@ -61,8 +62,9 @@ class WindowsListE2eTest : public TasksScreen
     {
         std::vector<Line> lines;
         for (const Line& line : LinesOf(TreeItems(tree))) {
-            if (!line.window || ClassOf(line.window).starts_with(L"Qv"))
+            if (!line.window || ClassOf(line.window).starts_with(L"Qv")) {
                 lines.push_back(line);
+            }
         }
         return lines;
     }
@@ -70,8 +72,9 @@ class WindowsListE2eTest : public TasksScreen
     HTREEITEM ItemOf(HWND window) const
     {
         for (const TreeItem& item : TreeItems(tree)) {
-            if (item.data == reinterpret_cast<LPARAM>(window))
+            if (item.data == reinterpret_cast<LPARAM>(window)) {
                 return item.handle;
+            }
         }
         return nullptr;
     }
@@ -79,8 +82,9 @@ class WindowsListE2eTest : public TasksScreen
     HWND SelectedWindow() const
     {
         for (const TreeItem& item : TreeItems(tree)) {
-            if (item.selected)
+            if (item.selected) {
                 return reinterpret_cast<HWND>(item.data);
+            }
         }
         return nullptr;
     }
@@ -126,15 +130,17 @@ TEST_F(WindowsListE2eTest, EveryTopLevelWindowOfTheProcessIsListedInItsOrder)
 
     std::vector<Line> expected = {{0, L"actor.exe", nullptr}};
     for (HWND window : TopWindows()) {
-        if (ProcessOf(window) == actor.Process())
+        if (ProcessOf(window) == actor.Process()) {
             expected.push_back({1, L"\"" + TextOf(window) + L"\" - " + ClassOf(window), window});
+        }
     }
     EXPECT_EQ(expected, LinesOf(TreeItems(tree)));
     // What the comparison would not notice if the system told both the same untruth.
     const auto lines = OwnLines();
     for (const Line& line : {Line{1, L"\"A\" - QvA", a}, Line{1, L"\"Hidden\" - QvHidden", hidden},
-                             Line{1, L"\"\" - QvOwned", owned}})
+                             Line{1, L"\"\" - QvOwned", owned}}) {
         EXPECT_EQ(1, std::count(lines.begin(), lines.end(), line)) << line;
+    }
     EXPECT_EQ(4u, lines.size());
     EXPECT_TRUE(CloseDialog(dialog));
 }
@@ -206,7 +212,7 @@ TEST_F(WindowsListE2eTest, TheProgramCanListItsOwnWindows)
 {
     Front();
     Select(0);
-    program->Command(CommandWindowsList);
+    program->Command(commandWindowsList);
     dialog = program->WaitForDialog();
     tree = FindDescendant(dialog, L"SysTreeView32", 1000);
     ASSERT_TRUE(WaitFor([&] { return FocusOf(dialog) == tree; }));
@@ -256,7 +262,7 @@ TEST_F(WindowsListE2eTest, TheRootHasNoReport)
     ASSERT_TRUE(actor.Make(Task(L"A")));
     Open();
     SelectItem(TreeItems(tree)[0].handle);
-    Send(dialog, WM_COMMAND, CommandWindowInfo);
+    Send(dialog, WM_COMMAND, commandWindowInfo);
     EXPECT_EQ(dialog, program->Dialog());
     EXPECT_FALSE(program->Notice());
     EXPECT_TRUE(CloseDialog(dialog));
@@ -271,7 +277,7 @@ TEST_F(WindowsListE2eTest, AnItemWhoseWindowHasGoneGivesANotice)
     SelectItem(ItemOf(b));
     actor.Vanish(b);
     EXPECT_TRUE(ItemOf(b)) << "the list is a snapshot";
-    PostMessageW(dialog, WM_COMMAND, CommandWindowInfo, 0);
+    PostMessageW(dialog, WM_COMMAND, commandWindowInfo, 0);
     const HWND notice = WaitForNotice();
     ASSERT_TRUE(notice);
     EXPECT_TRUE(NoticeSays(Main(), notice, L"Window is no longer exists."));
@@ -287,7 +293,7 @@ TEST_F(WindowsListE2eTest, ATaskThatHasGoneGivesANoticeAndNoDialog)
     Select(1);
     actor.Vanish(a);
     ASSERT_EQ(3, ListCount(list)) << "refreshed too early";
-    program->Command(CommandWindowsList);
+    program->Command(commandWindowsList);
     const HWND notice = WaitForNotice();
     ASSERT_TRUE(notice);
     EXPECT_TRUE(NoticeSays(Main(), notice, L"Window is no longer exists."));

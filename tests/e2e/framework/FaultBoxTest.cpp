@@ -19,8 +19,9 @@ class FaultBoxTest : public FatalBoxSession
     {
         std::vector<RECT> parts;
         for (HWND child = nullptr; (child = FindWindowExW(box, child, className, nullptr)) != nullptr;) {
-            if (GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE)
+            if (GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) {
                 parts.push_back(ScreenRectOf(child));
+            }
         }
         return parts;
     }
@@ -40,8 +41,9 @@ static int WrittenLines(const RECT& area)
     bool wasWritten = false;
     for (int y = 0; y < area.bottom - area.top; y++) {
         bool isWritten = false;
-        for (int x = 0; x < area.right - area.left; x++)
+        for (int x = 0; x < area.right - area.left; x++) {
             isWritten = isWritten || GetGValue(picture.At(x, y)) < 120;
+        }
         lines += isWritten && !wasWritten ? 1 : 0;
         wasWritten = isWritten;
     }

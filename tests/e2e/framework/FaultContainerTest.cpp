@@ -12,39 +12,48 @@ namespace {
 
 using Bytes = std::vector<unsigned char>;
 
-void Append32(Bytes& bytes, uint32_t value)
+} // namespace
+
+static void Append32(Bytes& bytes, uint32_t value)
 {
-    for (int shift = 0; shift < 32; shift += 8)
+    for (int shift = 0; shift < 32; shift += 8) {
         bytes.push_back(static_cast<unsigned char>(value >> shift));
+    }
 }
 
 // A picture file's head: magic, version, three words, the number of entries.
-Bytes Head(uint32_t count, uint32_t version = 1)
+static Bytes Head(uint32_t count, uint32_t version = 1)
 {
     Bytes bytes = {'Q', 'V', '_', 'Z', 'R', 'S', 0};
     Append32(bytes, version);
-    for (uint32_t word : {0xFFFFFFFFu, 0u, 7u})
+    for (uint32_t word : {0xFFFFFFFFu, 0u, 7u}) {
         Append32(bytes, word);
+    }
     Append32(bytes, count);
     return bytes;
 }
+
+namespace {
 
 struct Entry
 {
     uint32_t id, offset, size;
 };
 
-Bytes WithEntries(const std::vector<Entry>& entries)
+} // namespace
+
+static Bytes WithEntries(const std::vector<Entry>& entries)
 {
     Bytes bytes = Head(static_cast<uint32_t>(entries.size()));
     for (const Entry& entry : entries) {
-        for (uint32_t value : {entry.id, entry.offset, entry.size, 0xFFFFFFFFu, 0u})
+        for (uint32_t value : {entry.id, entry.offset, entry.size, 0xFFFFFFFFu, 0u}) {
             Append32(bytes, value);
+        }
     }
     return bytes;
 }
 
-bool Write(const std::wstring& path, const Bytes& bytes)
+static bool Write(const std::wstring& path, const Bytes& bytes)
 {
     const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     DWORD written = 0;
@@ -55,8 +64,6 @@ bool Write(const std::wstring& path, const Bytes& bytes)
     CloseHandle(file);
     return whole;
 }
-
-} // namespace
 
 class FaultContainerTest : public ShellSession
 {
@@ -206,8 +213,9 @@ TEST_F(FaultContainerTest, AFileWithoutEntriesIsOneThatLacksPictures)
 TEST_F(FaultContainerTest, EntriesThatLieBeyondTheEndAreLikeMissingOnes)
 {
     std::vector<Entry> entries;
-    for (uint32_t id = 0; id < 16; id++)
+    for (uint32_t id = 0; id < 16; id++) {
         entries.push_back({id, 0x7FFFFF00u, 64});
+    }
     ExpectNormalStart(WithEntries(entries));
     ExpectAllPagesWork();
 }
@@ -227,8 +235,9 @@ TEST_F(FaultContainerTest, EntriesOfHostileSizesAreLikeMissingOnes)
 TEST_F(FaultContainerTest, EntriesThatAreNoPicturesAreLikeMissingOnes)
 {
     std::vector<Entry> entries;
-    for (uint32_t id = 0; id < 16; id++)
+    for (uint32_t id = 0; id < 16; id++) {
         entries.push_back({id, 27, 300});
+    }
     ExpectNormalStart(WithEntries(entries));
     ExpectAllPagesWork();
 }

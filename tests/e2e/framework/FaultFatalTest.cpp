@@ -18,8 +18,9 @@ TEST_F(FaultFatalTest, ItIsABoxWithoutAnOwnerOneButtonAndASign)
     EXPECT_EQ(nullptr, GetWindow(box, GW_OWNER));
     EXPECT_TRUE(InFront(box));
     int buttons = 0;
-    for (HWND child = nullptr; (child = FindWindowExW(box, child, L"Button", nullptr)) != nullptr;)
+    for (HWND child = nullptr; (child = FindWindowExW(box, child, L"Button", nullptr)) != nullptr;) {
         buttons += (GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) != 0 ? 1 : 0;
+    }
     EXPECT_EQ(1, buttons);
     int signs = 0;
     for (HWND child = nullptr; (child = FindWindowExW(box, child, L"Static", nullptr)) != nullptr;) {

@@ -29,8 +29,9 @@ class ListPaintE2eTest : public TasksScreen
     {
         return WaitFor([&] {
             for (int i = 0; i < ListCount(list); i++) {
-                if (IsHighlighted(i) != (i == row))
+                if (IsHighlighted(i) != (i == row)) {
                     return false;
+                }
             }
             return true;
         });
@@ -65,7 +66,7 @@ TEST_F(ListPaintE2eTest, ARefreshPaintsTheNewRowsAndWipesTheOld)
     ASSERT_TRUE(RowShowsName(list, 2, L"Second"));
     const RECT last = ListRowOnScreen(list, 3).value_or(RECT{});
     actor.Vanish(a);
-    program->Command(CommandRefresh);
+    program->Command(commandRefresh);
     EXPECT_TRUE(RowShowsName(list, 1, L"Second"));
     EXPECT_TRUE(RowShowsName(list, 2, L"Today"));
     EXPECT_TRUE(WaitFor([&] {
@@ -80,7 +81,7 @@ TEST_F(ListPaintE2eTest, AClosedTaskLeavesTheScreenToo)
     const HWND b = actor.Make(Task(L"Second"));
     FrontBefore({a, b});
     Select(1);
-    program->Command(CommandClose);
+    program->Command(commandClose);
     EXPECT_TRUE(RowShowsName(list, 1, L"Second"));
     EXPECT_TRUE(OnlyHighlighted(1));
 }

@@ -74,7 +74,7 @@ TEST_F(HeaderTapTest, TheLeftArrowGoesToTheProcesses)
     for (int x : {0, zone / 2, zone}) {
         TapAt(x);
         EXPECT_TRUE(program->WaitForPage(4)) << x;
-        Do(CommandShowTasks);
+        Do(commandShowTasks);
         ASSERT_TRUE(program->WaitForPage(1));
     }
 }
@@ -84,7 +84,7 @@ TEST_F(HeaderTapTest, TheRightArrowGoesToTheStartPage)
     for (int x : {width - zone, width - zone / 2, width - 1}) {
         TapAt(x);
         EXPECT_TRUE(program->WaitForPage(3)) << x;
-        Do(CommandShowTasks);
+        Do(commandShowTasks);
         ASSERT_TRUE(program->WaitForPage(1));
     }
 }
@@ -110,10 +110,10 @@ TEST_F(HeaderTapTest, TheLastPixelRowBelongsToTheStripAndOneMore)
 {
     PressAt(0, height);
     EXPECT_TRUE(program->WaitForPage(4));
-    Do(CommandShowTasks);
+    Do(commandShowTasks);
     PressAt(0, height + 1);
     PressAt(width / 2, height + 1);
-    Do(CommandRefresh);
+    Do(commandRefresh);
     EXPECT_EQ(1, program->VisiblePage());
     EXPECT_FALSE(OpenMenu());
 }
@@ -129,7 +129,7 @@ TEST_F(HeaderTapTest, TheItemsOfThePopUpGoToTheirPages)
         ASSERT_TRUE(OpenPopup(OnScreen(60)));
         Choose(expected.item);
         EXPECT_TRUE(program->WaitForPage(expected.page)) << expected.item;
-        Do(CommandShowTasks);
+        Do(commandShowTasks);
         ASSERT_TRUE(program->WaitForPage(1));
     }
 }
@@ -173,7 +173,7 @@ TEST_F(HeaderTapTest, ADismissedPopUpDoesNothing)
     ASSERT_TRUE(OpenPopup(OnScreen(60)));
     Tap(PointIn(page, OnScreen(20), OnScreen(200)));
     EXPECT_TRUE(MenuCloses());
-    Do(CommandRefresh);
+    Do(commandRefresh);
     EXPECT_EQ(1, program->VisiblePage());
     EXPECT_EQ(1, ListMark(list));
     // And opens again.
@@ -186,7 +186,7 @@ TEST_F(HeaderTapTest, TheLeftAndRightKeysGoThroughThePages)
 {
     PressKey(VK_LEFT);
     EXPECT_TRUE(program->WaitForPage(4));
-    Do(CommandShowTasks);
+    Do(commandShowTasks);
     ASSERT_TRUE(program->WaitForPage(1));
     PressKey(VK_RIGHT);
     EXPECT_TRUE(program->WaitForPage(3));
@@ -194,10 +194,10 @@ TEST_F(HeaderTapTest, TheLeftAndRightKeysGoThroughThePages)
 
 TEST_F(HeaderTapTest, TheCommandsOfTheArrowsGoThroughThePagesToo)
 {
-    program->Command(CommandPreviousPage);
+    program->Command(commandPreviousPage);
     EXPECT_TRUE(program->WaitForPage(4));
-    Do(CommandShowTasks);
+    Do(commandShowTasks);
     ASSERT_TRUE(program->WaitForPage(1));
-    program->Command(CommandNextPage);
+    program->Command(commandNextPage);
     EXPECT_TRUE(program->WaitForPage(3));
 }

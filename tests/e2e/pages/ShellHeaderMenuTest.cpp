@@ -6,12 +6,10 @@
 
 using namespace rig;
 
-namespace {
-
-constexpr size_t RefreshLine = 5;
+static constexpr size_t refreshLine = 5;
 
 // The pop-up of a page. The lines are in the order of the ring.
-std::vector<MenuLine> LinesOn(int page)
+static std::vector<MenuLine> LinesOn(int page)
 {
     return {{L"Running apps", page == TasksPage},
             {L"Start", page == LauncherPage},
@@ -21,15 +19,14 @@ std::vector<MenuLine> LinesOn(int page)
             {L"Refresh"}};
 }
 
-size_t LineOf(int page)
+static size_t LineOf(int page)
 {
     size_t line = 0;
-    while (PageRing[line] != page)
+    while (pageRing[line] != page) {
         line++;
+    }
     return line;
 }
-
-} // namespace
 
 class ShellHeaderMenuTest : public ShellSession
 {
@@ -51,7 +48,7 @@ class ShellHeaderMenuTest : public ShellSession
 
 TEST_F(ShellHeaderMenuTest, ItHasItsFourPagesAndRefreshWithTheOwnPageGreyed)
 {
-    for (int page : PageRing) {
+    for (int page : pageRing) {
         ASSERT_TRUE(program->WaitForPage(page));
         const MenuTwin twin = Twin(page);
         ASSERT_GT(twin.Look().Colours(), 1) << "the expected menu does not open";
@@ -127,7 +124,7 @@ TEST_F(ShellHeaderMenuTest, RefreshTakesTheNewStateIn)
     const Actor actor;
     const HWND window = actor.Make({.title = L"Newcomer", .style = WS_POPUP, .place = {0, 200, 50, 250}});
     ASSERT_TRUE(window);
-    const POINT line = Twin(TasksPage).Middle(RefreshLine);
+    const POINT line = Twin(TasksPage).Middle(refreshLine);
     // After the refresh that follows the first showing of the page.
     const int before = SettledCount();
     ShowWindowAsync(window, SW_SHOWNA);

@@ -11,8 +11,9 @@ class ShellPagesTest : public ShellSession
     int VisiblePages() const
     {
         int count = 0;
-        for (int page = TasksPage; page <= ProcsPage; page++)
+        for (int page = TasksPage; page <= ProcsPage; page++) {
             count += IsWindowVisible(program->Page(page)) ? 1 : 0;
+        }
         return count;
     }
 
@@ -75,7 +76,7 @@ TEST_F(ShellPagesTest, ACommandBringsTheProgramForward)
 
 TEST_F(ShellPagesTest, TheLeftArrowReachesToItsBoundaryPixel)
 {
-    for (int page : PageRing) {
+    for (int page : pageRing) {
         Show(page);
         Tap(StripPoint(page, Zone(page)));
         ExpectShown(PageAfter(page, -1));
@@ -87,7 +88,7 @@ TEST_F(ShellPagesTest, TheLeftArrowReachesToItsBoundaryPixel)
 
 TEST_F(ShellPagesTest, TheRightArrowReachesToItsBoundaryPixel)
 {
-    for (int page : PageRing) {
+    for (int page : pageRing) {
         Show(page);
         Tap(StripPoint(page, Width() - Zone(page)));
         ExpectShown(PageAfter(page, 1));

@@ -54,7 +54,7 @@ class SoftKeyLabelsTest : public ShellSession
 
 TEST_F(SoftKeyLabelsTest, EveryPageHasHideAndMenu)
 {
-    for (int page : PageRing) {
+    for (int page : pageRing) {
         ASSERT_TRUE(program->WaitForPage(page));
         EXPECT_TRUE(Shows(WaitFor([&] { return BarOf(main); }), L"Hide", L"Menu")) << page;
         PressKey(VK_RIGHT);
@@ -79,7 +79,7 @@ TEST_F(SoftKeyLabelsTest, ThePageEndsWhereTheBarBegins)
     EXPECT_EQ(bar.bottom, ScreenRect().bottom);
     EXPECT_EQ(bar.bottom - bar.top, Scaled(26));
     EXPECT_EQ(ScreenRectOf(main).bottom, bar.top);
-    for (int page : PageRing) {
+    for (int page : pageRing) {
         ASSERT_TRUE(program->WaitForPage(page));
         EXPECT_EQ(ScreenRectOf(program->Page(page)).bottom, bar.top) << page;
         EXPECT_EQ(ScreenRectOf(program->List(page)).bottom, bar.top) << page;

@@ -43,7 +43,7 @@ TEST_F(TodayKeyTest, OnlyTheLeftKeyStartsTheProgram)
     Tap(1, 13);
     EXPECT_EQ(Started(), 1);
 
-    const HWND main = WaitForTopWindow({.className = MainWindowClass, .title = MainWindowTitle});
+    const HWND main = WaitForTopWindow({.className = mainWindowClass, .title = mainWindowTitle});
     EXPECT_TRUE(WaitFor([=] { return GetForegroundWindow() == main; }));
     PostMessageW(main, WM_CLOSE, 0, 0);
     EXPECT_TRUE(WaitFor([] { return Started() == 0; }));

@@ -16,9 +16,9 @@
 using namespace rig;
 using std::chrono::milliseconds;
 
-namespace {
+static constexpr COLORREF orange = RGB(250, 120, 10);
 
-constexpr COLORREF Orange = RGB(250, 120, 10);
+namespace {
 
 // A program of Wine's with its window in front.
 class WineProgram
@@ -181,9 +181,9 @@ TEST(RigTest, AWindowThatAppearsBelowTheStylusHearsNothingOfIt)
 {
     const Actor actor;
     MoveTo({70, 130});
-    const HWND window = actor.Make({.place = {20, 80, 120, 180}, .colour = Orange});
+    const HWND window = actor.Make({.place = {20, 80, 120, 180}, .colour = orange});
     ASSERT_TRUE(BringToFront(window));
-    ASSERT_TRUE(WaitFor([] { return Picture::OfScreen().Count(Orange) == 100 * 100; }));
+    ASSERT_TRUE(WaitFor([] { return Picture::OfScreen().Count(orange) == 100 * 100; }));
     Picture::OfSettledScreen();
     EXPECT_EQ(0, MoveCount(window));
     StylusDown({70, 130});
@@ -205,18 +205,18 @@ TEST(RigTest, TypedTextArrives)
 TEST(RigTest, APictureShowsTheWindowsOfOtherProcesses)
 {
     const Actor actor;
-    const HWND window = actor.Make({.place = {20, 150, 80, 190}, .colour = Orange});
+    const HWND window = actor.Make({.place = {20, 150, 80, 190}, .colour = orange});
     ASSERT_TRUE(BringToFront(window));
-    EXPECT_TRUE(WaitFor([] { return Picture::OfScreen().Count(Orange) == 60 * 40; }));
+    EXPECT_TRUE(WaitFor([] { return Picture::OfScreen().Count(orange) == 60 * 40; }));
     const Picture screen = Picture::OfSettledScreen();
     EXPECT_EQ(GetSystemMetrics(SM_CXSCREEN), screen.Width());
     EXPECT_EQ(GetSystemMetrics(SM_CYSCREEN), screen.Height());
-    EXPECT_EQ(Orange, screen.At(20, 150));
-    EXPECT_EQ(Orange, screen.At(79, 189));
-    EXPECT_NE(Orange, screen.At(80, 189));
-    EXPECT_NE(Orange, screen.At(19, 150));
+    EXPECT_EQ(orange, screen.At(20, 150));
+    EXPECT_EQ(orange, screen.At(79, 189));
+    EXPECT_NE(orange, screen.At(80, 189));
+    EXPECT_NE(orange, screen.At(19, 150));
     EXPECT_EQ(CLR_INVALID, screen.At(-1, 0));
-    EXPECT_EQ(10 * 5, screen.Count(Orange, {20, 150, 30, 155}));
+    EXPECT_EQ(10 * 5, screen.Count(orange, {20, 150, 30, 155}));
 }
 
 TEST(RigTest, AFocusSetInTheBackgroundCoversNothing)
@@ -224,11 +224,11 @@ TEST(RigTest, AFocusSetInTheBackgroundCoversNothing)
     const Actor background;
     const Actor front;
     const HWND below = background.Make({.place = {0, 60, 100, 120}});
-    const HWND above = front.Make({.place = {0, 60, 100, 120}, .colour = Orange});
+    const HWND above = front.Make({.place = {0, 60, 100, 120}, .colour = orange});
     ASSERT_TRUE(BringToFront(above));
-    ASSERT_TRUE(WaitFor([] { return Picture::OfScreen().Count(Orange) == 100 * 60; }));
+    ASSERT_TRUE(WaitFor([] { return Picture::OfScreen().Count(orange) == 100 * 60; }));
     background.Focus(below);
-    EXPECT_EQ(100 * 60, Picture::OfSettledScreen().Count(Orange));
+    EXPECT_EQ(100 * 60, Picture::OfSettledScreen().Count(orange));
     EXPECT_EQ(above, GetForegroundWindow());
 }
 
@@ -281,8 +281,9 @@ TEST(RigTest, AProgramCopyHasFilesOfItsOwn)
         ASSERT_TRUE(copy.Complete());
         folder = copy.Folder();
         for (const wchar_t* name :
-             {L"Quorvane.exe", L"Quorvane.zrs", L"coredll.dll", L"profiles\\pocketpc.ini"})
+             {L"Quorvane.exe", L"Quorvane.zrs", L"coredll.dll", L"profiles\\pocketpc.ini"}) {
             EXPECT_TRUE(std::filesystem::exists(copy.Path(name))) << std::filesystem::path(name);
+        }
     }
     EXPECT_FALSE(std::filesystem::exists(folder));
 }

@@ -80,8 +80,9 @@ static std::vector<uint16_t> MenuBar(UINT id)
 {
     HRSRC resource = FindResourceW(Module(), MAKEINTRESOURCEW(id), RT_RCDATA);
     EXPECT_NE(resource, nullptr) << id;
-    if (!resource)
+    if (!resource) {
         return {};
+    }
     const auto* words = static_cast<const uint16_t*>(LockResource(LoadResource(Module(), resource)));
     const DWORD size = SizeofResource(Module(), resource);
     EXPECT_EQ(size % 2, 0u);

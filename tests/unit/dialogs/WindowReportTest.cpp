@@ -110,8 +110,9 @@ TEST(WindowReportTest, EveryStyleBitHasItsLines)
 {
     for (uint32_t bit = 1; bit != 0; bit <<= 1) {
         std::wstring expected;
-        for (const auto& each : styleLines)
+        for (const auto& each : styleLines) {
             expected += each.bits == 0xFFFFFFFF || (each.bits & bit) ? each.line : L"";
+        }
         EXPECT_EQ(Styles(bit), expected) << std::hex << bit;
     }
 }
@@ -120,8 +121,9 @@ TEST(WindowReportTest, EveryExtendedStyleBitHasItsLines)
 {
     for (uint32_t bit = 1; bit != 0; bit <<= 1) {
         std::wstring expected;
-        for (const auto& each : extendedStyleLines)
+        for (const auto& each : extendedStyleLines) {
             expected += each.bits & bit ? each.line : L"";
+        }
         EXPECT_EQ(ExtendedStyles(bit), expected) << std::hex << bit;
     }
 }
@@ -129,12 +131,14 @@ TEST(WindowReportTest, EveryExtendedStyleBitHasItsLines)
 TEST(WindowReportTest, AllLinesComeInTheirOrder)
 {
     std::wstring styles;
-    for (const auto& each : styleLines)
+    for (const auto& each : styleLines) {
         styles += each.line;
+    }
     EXPECT_EQ(Styles(0xFFFFFFFF), styles);
     std::wstring extended;
-    for (const auto& each : extendedStyleLines)
+    for (const auto& each : extendedStyleLines) {
         extended += each.line;
+    }
     EXPECT_EQ(ExtendedStyles(0xFFFFFFFF), extended);
 }
 
@@ -154,8 +158,9 @@ TEST(WindowReportTest, TheUsualStylesReadAsTheyShould)
 
 TEST(WindowReportTest, SomeExtendedStylesHaveNoLine)
 {
-    for (const uint32_t bit : {0x80u, 0x40000u, 0x80000u, 0x2u, 0x10u})
+    for (const uint32_t bit : {0x80u, 0x40000u, 0x80000u, 0x2u, 0x10u}) {
         EXPECT_EQ(ExtendedStyles(bit), L"") << std::hex << bit;
+    }
 }
 
 TEST(WindowReportTest, TheStylesAreTheWindowsOwn)

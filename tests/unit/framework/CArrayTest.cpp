@@ -2,15 +2,16 @@
 #include "framework/CArray.h"
 #include "framework/CStrList.h"
 #include "framework/CVireoApp.h"
-#include "startmenu/SAppsList.h"
 #include "pages/tasks/STaskInfo.h"
+#include "startmenu/SAppsList.h"
 #include "tests/support/Fatal.h"
 #include "tests/support/TestHeap.h"
 
 static void Fill(CArray<int>& array, int n)
 {
-    for (int i = 0; i < n; i++)
+    for (int i = 0; i < n; i++) {
         array.Append(i);
+    }
 }
 
 TEST(CArrayTest, GrowsByItsStep)

@@ -8,8 +8,9 @@ static const wchar_t* modulePath;
 
 static DWORD WINAPI GiveModulePath(HMODULE module, wchar_t* path, DWORD size)
 {
-    if (module || !modulePath)
+    if (module || !modulePath) {
         return 0;
+    }
     wcsncpy(path, modulePath, size);
     return static_cast<DWORD>(wcslen(modulePath));
 }

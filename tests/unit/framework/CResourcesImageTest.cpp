@@ -120,8 +120,9 @@ TEST_F(CResourcesImageTest, DataThatAreNotThereAreCode5)
     Open(HeaderBytes(5) + RecordBytes(1, 127, 5) + RecordBytes(2, 131, 1) + RecordBytes(3, 500, 1) +
          RecordBytes(4, 0, 0xFFFFFFFF) + RecordBytes(5, 0x7FFFFFFF, 0xFFFFFFFF) + Bytes{'a', 'b', 'c', 'd'});
     largestRequest = 0;
-    for (uint32_t id = 1; id <= 5; id++)
+    for (uint32_t id = 1; id <= 5; id++) {
         ExpectNoImage(id, 5);
+    }
     EXPECT_LE(largestRequest, 5u); // a size is not believed
 }
 
@@ -186,8 +187,9 @@ TEST_F(CResourcesImageTest, ABitmapHasTheImageOverTheWindowColour)
     ASSERT_NE(before, nullptr); // selected nowhere else
     for (int y = 0; y < 3; y++) {
         EXPECT_EQ(GetPixel(memory, 0, y), RGB(1, 2, 3));
-        for (int x = 1; x < 4; x++)
+        for (int x = 1; x < 4; x++) {
             EXPECT_EQ(GetPixel(memory, x, y), GetSysColor(COLOR_WINDOW)) << x << ' ' << y;
+        }
     }
     SelectObject(memory, before);
     EXPECT_TRUE(DeleteObject(bitmap));
@@ -209,8 +211,9 @@ static BOOL WINAPI EndContext(HDC)
 
 static HBITMAP WINAPI CountSection(HDC, const BITMAPINFO* info, UINT, void**, HANDLE, DWORD)
 {
-    if (info->bmiHeader.biWidth <= 0 || info->bmiHeader.biHeight == 0)
+    if (info->bmiHeader.biWidth <= 0 || info->bmiHeader.biHeight == 0) {
         return nullptr;
+    }
     sections++;
     return reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(0x22));
 }

@@ -37,8 +37,9 @@ TEST(CStrListTest, TheEndFreesEverything)
     const size_t before = LiveBlocks();
     {
         CStrList list;
-        for (int i = 0; i < 40; i++)
+        for (int i = 0; i < 40; i++) {
             list.Append(L"text");
+        }
         EXPECT_EQ(list.Count(), 40u);
     }
     EXPECT_EQ(LiveBlocks(), before);

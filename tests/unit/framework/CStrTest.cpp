@@ -24,8 +24,9 @@ TEST(CStrTest, ASizeGivesAnEmptyFixedStringWithOnePlaceMore)
     EXPECT_STREQ(L"", text);
     EXPECT_EQ(text.FixedSize(), 5u);
     EXPECT_EQ(text.BufferSize(), 5u);
-    for (uint32_t i = 0; i <= 5; i++)
+    for (uint32_t i = 0; i <= 5; i++) {
         text.Buffer()[i] = i < 5 ? L'x' : 0; // a checked build dies if the buffer is shorter
+    }
     EXPECT_EQ(text.Length(), 5u);
 }
 

@@ -249,8 +249,9 @@ TEST_F(CVireoRegistryTest, TheTypeTellsWhetherAValueExists)
 TEST_F(CVireoRegistryTest, SubKeysAreListedInIndexOrder)
 {
     const std::wstring longName(200, L'n');
-    for (const wchar_t* name : {L"40C1", L"40C2", L"x", longName.c_str()})
+    for (const wchar_t* name : {L"40C1", L"40C2", L"x", longName.c_str()}) {
         testKey.MakeSubKey(name);
+    }
     Open();
     CStrList names;
     names.Append(L"left from before");
@@ -283,8 +284,9 @@ TEST_F(CVireoRegistryTest, WithoutSubKeysTheListIsEmpty)
 static LONG WINAPI SkipSecond(HKEY, DWORD index, wchar_t* name, DWORD* size, DWORD*, wchar_t*, DWORD*,
                               FILETIME*)
 {
-    if (index == 1)
+    if (index == 1) {
         return ERROR_MORE_DATA;
+    }
     name[0] = static_cast<wchar_t>(L'a' + index);
     name[1] = 0;
     *size = 1;
@@ -293,8 +295,9 @@ static LONG WINAPI SkipSecond(HKEY, DWORD index, wchar_t* name, DWORD* size, DWO
 
 TEST_F(CVireoRegistryTest, ANameThatFailsIsSkipped)
 {
-    for (const wchar_t* name : {L"a", L"b", L"c"})
+    for (const wchar_t* name : {L"a", L"b", L"c"}) {
         testKey.MakeSubKey(name);
+    }
     Open();
     const ImportHook hook("RegEnumKeyExW", SkipSecond);
     CStrList names;

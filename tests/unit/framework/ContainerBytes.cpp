@@ -35,8 +35,9 @@ Bytes ContainerBytes(const std::vector<EntryBytes>& entries)
         whole = whole + RecordBytes(entry.id, offset, size);
         offset += size;
     }
-    for (const EntryBytes& entry : entries)
+    for (const EntryBytes& entry : entries) {
         whole = whole + entry.data;
+    }
     return whole;
 }
 

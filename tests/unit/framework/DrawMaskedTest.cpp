@@ -56,15 +56,18 @@ class DrawMaskedTest : public testing::Test
 
     DrawMaskedTest()
     {
-        for (int y = 0; y < 4; y++)
-            for (int x = 0; x < 6; x++)
+        for (int y = 0; y < 4; y++) {
+            for (int x = 0; x < 6; x++) {
                 SetPixel(target, x, y, background);
+            }
+        }
         // Opaque at (0,0) and (1,1), where the mask is black.
-        for (int y = 0; y < 2; y++)
+        for (int y = 0; y < 2; y++) {
             for (int x = 0; x < 2; x++) {
                 SetPixel(image, x, y, pictureColour);
                 SetPixel(mask, x, y, x == y ? RGB(0, 0, 0) : RGB(255, 255, 255));
             }
+        }
         image.Deselect();
         mask.Deselect();
     }
@@ -73,11 +76,12 @@ class DrawMaskedTest : public testing::Test
 TEST_F(DrawMaskedTest, TheTargetShowsThroughWhereTheMaskIsWhite)
 {
     CResources::DrawMasked(target, 3, 1, 2, 2, own, image.Bitmap(), mask.Bitmap());
-    for (int y = 0; y < 4; y++)
+    for (int y = 0; y < 4; y++) {
         for (int x = 0; x < 6; x++) {
             const bool opaque = (x == 3 && y == 1) || (x == 4 && y == 2);
             EXPECT_EQ(GetPixel(target, x, y), opaque ? pictureColour : background) << x << ' ' << y;
         }
+    }
 }
 
 TEST_F(DrawMaskedTest, TheLentContextHasItsBitmapAgain)

@@ -68,8 +68,9 @@ class FakeImage final : public FakeObject<IImage>
     HRESULT STDMETHODCALLTYPE Draw(HDC target, const RECT* targetRect, const RECT*) override
     {
         fake->drawnTo = *targetRect;
-        for (LONG y = targetRect->top; y < targetRect->bottom; y++)
+        for (LONG y = targetRect->top; y < targetRect->bottom; y++) {
             SetPixel(target, targetRect->left, y, fake->colour);
+        }
         return fake->draw;
     }
 
@@ -97,8 +98,9 @@ class FakeFactory final : public FakeObject<IImagingFactory>
     {
         fake->bufferRead.assign(static_cast<const char*>(buffer), size);
         fake->disposal = disposal;
-        if (SUCCEEDED(fake->createImage))
+        if (SUCCEEDED(fake->createImage)) {
             *image = new FakeImage(const_cast<void*>(buffer));
+        }
         return fake->createImage;
     }
 
@@ -110,9 +112,11 @@ HRESULT WINAPI CreateFakeFactory(const IID& classId, IUnknown*, DWORD context, c
                                  void** object)
 {
     if (classId != CLSID_ImagingFactory || interfaceId != IID_IImagingFactory ||
-        context != CLSCTX_INPROC_SERVER)
+        context != CLSCTX_INPROC_SERVER) {
         return E_INVALIDARG;
-    if (SUCCEEDED(fake->createFactory))
+    }
+    if (SUCCEEDED(fake->createFactory)) {
         *object = new FakeFactory;
+    }
     return fake->createFactory;
 }

@@ -25,10 +25,12 @@ static int callsThatSucceed;
 static int WINAPI Convert(UINT page, DWORD, const char*, int, wchar_t* wide, int size)
 {
     askedPage = page;
-    if (callsThatSucceed-- <= 0)
+    if (callsThatSucceed-- <= 0) {
         return 0;
-    if (size)
+    }
+    if (size) {
         wcscpy(wide, L"abc");
+    }
     return 4;
 }
 

@@ -77,8 +77,9 @@ TEST(ProcessFactsTest, TheSumWrapsAt4GiB)
 TEST(ProcessFactsTest, EverySnapshotIsClosed)
 {
     ScriptedHeaps script;
-    for (const auto& heaps : {std::vector<ScriptedHeap>{{{1, 2}}}, {}, {{}}, {{{5}}, {}}})
+    for (const auto& heaps : {std::vector<ScriptedHeap>{{{1, 2}}}, {}, {{}}, {{{5}}, {}}}) {
         HeapBytes(script, heaps);
+    }
     EXPECT_EQ(script.snapshots.size(), 4u);
     EXPECT_EQ(script.open, 0);
     EXPECT_FALSE(script.badRequest);
@@ -148,6 +149,7 @@ TEST(ProcessFactsTest, TheFileNameIsWhatFollowsTheLastBackslash)
                  {L"C:/a/b.exe", L"C:/a/b.exe"},
                  {L"\\a b\\\\c%s.exe", L"c%s.exe"},
                  {L"\\Программы\\Ключ.exe", L"Ключ.exe"}};
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         EXPECT_STREQ(FileNameOf(each.path), each.name) << each.path;
+    }
 }

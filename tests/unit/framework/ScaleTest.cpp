@@ -15,8 +15,9 @@ TEST(ScaleTest, RoundsToTheNearestPixel)
         int pixels;
     } cases[] = {{1, 96, 1},    {1, 131, 1}, {1, 144, 2},  {3, 120, 4}, {8, 192, 16},
                  {28, 131, 38}, {0, 192, 0}, {26, 96, 26}, {5, 131, 7}};
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         EXPECT_EQ(Scaled(each.n, each.dpi), each.pixels) << each.n << " at " << each.dpi;
+    }
 }
 
 static int queries;

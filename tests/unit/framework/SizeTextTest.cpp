@@ -49,8 +49,9 @@ TEST(SizeTextTest, KnownSizes)
         {-1024, L"-1024 B"},
         {-5 * mega, L"-5242880 B"},
     };
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         EXPECT_EQ(each.text, Size(each.bytes)) << each.bytes;
+    }
 }
 
 // By integers: the hundredths are rounded, and three of them come out one too small, because 0.29, 0.57 and
@@ -64,10 +65,12 @@ static int HundredthsOf(int remainder)
 static std::wstring Expected(int64_t whole, int remainder, const wchar_t* unit)
 {
     const int hundredths = HundredthsOf(remainder);
-    if (hundredths == 100)
+    if (hundredths == 100) {
         return std::to_wstring(whole + 1) + unit;
-    if (hundredths == 0)
+    }
+    if (hundredths == 0) {
         return std::to_wstring(whole) + unit;
+    }
     const std::wstring digits = std::to_wstring(100 + hundredths).substr(1);
     return std::to_wstring(whole) + L"." + digits + unit;
 }
@@ -92,12 +95,15 @@ TEST(SizeTextTest, EveryRemainderInEveryUnit)
 
 TEST(SizeTextTest, TheCutHundredthsAreKept)
 {
-    for (int64_t bytes = 1316; bytes <= 1326; bytes++)
+    for (int64_t bytes = 1316; bytes <= 1326; bytes++) {
         EXPECT_EQ(L"1.28 KB", Size(bytes)) << bytes;
-    for (int64_t bytes = 1603; bytes <= 1612; bytes++)
+    }
+    for (int64_t bytes = 1603; bytes <= 1612; bytes++) {
         EXPECT_EQ(L"1.56 KB", Size(bytes)) << bytes;
-    for (int64_t bytes = 1613; bytes <= 1623; bytes++)
+    }
+    for (int64_t bytes = 1613; bytes <= 1623; bytes++) {
         EXPECT_EQ(L"1.57 KB", Size(bytes)) << bytes;
+    }
     EXPECT_EQ(L"1.30 KB", Size(1327));
     EXPECT_EQ(L"1.59 KB", Size(1624));
 }

@@ -114,10 +114,12 @@ TEST_F(KeyCommandTest, ANegativeKeyIsHandedOverToo)
 TEST_F(KeyCommandTest, WhatFollowsATextInTheRecordIsZero)
 {
     app.CheckPrevInstance(running, L"193 a*b");
-    for (size_t i = 14; i < 524; i++)
+    for (size_t i = 14; i < 524; i++) {
         EXPECT_EQ(sentBytes[i], 0) << i;
-    for (size_t i = 526; i < 1036; i++)
+    }
+    for (size_t i = 526; i < 1036; i++) {
         EXPECT_EQ(sentBytes[i], 0) << i;
+    }
 }
 
 TEST_F(KeyCommandTest, PathsOf255CharactersAreWholeAndLongerOnesAreCut)
@@ -189,8 +191,9 @@ TEST_F(KeyCommandTest, ForeignRecordsAreAnsweredAndIgnored)
     EXPECT_EQ(app.Copy(0, sizeof command, &command), TRUE);
     EXPECT_EQ(app.Copy(2, sizeof command, &command), TRUE);
     EXPECT_EQ(app.Copy(0x100000001, sizeof command, &command), TRUE);
-    for (const DWORD size : {0u, 1u, 4u, 1035u})
+    for (const DWORD size : {0u, 1u, 4u, 1035u}) {
         EXPECT_EQ(app.Copy(1, size, std::vector<unsigned char>(size).data()), TRUE) << size;
+    }
     EXPECT_EQ(app.Copy(1, 1037, larger.data()), TRUE);
     EXPECT_EQ(app.Copy(1, 0xFFFFFFFF, &command), TRUE);
     EXPECT_EQ(app.Copy(1, sizeof command, nullptr), TRUE);
@@ -252,7 +255,8 @@ TEST_F(KeyCommandTest, HandingOverLeavesNothingAllocated)
     SKeyCommand command = {198, 2, 2, L"\\a.lnk", L"\\b.lnk"};
     app.Copy(1, sizeof command, &command);
     const size_t before = LiveBlocks();
-    for (int i = 0; i < 100; i++)
+    for (int i = 0; i < 100; i++) {
         app.Copy(1, sizeof command, &command);
+    }
     EXPECT_EQ(LiveBlocks(), before);
 }

@@ -47,16 +47,18 @@ TEST(SKeyPressTest, ATokenThatIsNoNumberIsAFileToStart)
 
 TEST(SKeyPressTest, OnlyDecimalDigitsMakeANumber)
 {
-    for (const wchar_t* token : {L"+3", L"-3", L" 3", L"3 ", L"0x3", L"3.", L"3\t", L"３", L"٣", L"3a"})
+    for (const wchar_t* token : {L"+3", L"-3", L" 3", L"3 ", L"0x3", L"3.", L"3\t", L"３", L"٣", L"3a"}) {
         ExpectTail(std::wstring(L"193 ") + token + L"*9", 193, 2, 9, token);
+    }
 }
 
 TEST(SKeyPressTest, WithoutABlankOrAStarItIsANormalStart)
 {
     for (const wchar_t* text :
          {L"", L" ", L"   \t\r\n ", L"193", L"3*9", L"193*3*9", L"193 3", L"193 ", L" 193 3 9", L"*", L"**",
-          L"-", L"193\t3*9", L"193\n3*9", L"3*9 ", L"193* 3", L"\\x y.exe"})
+          L"-", L"193\t3*9", L"193\n3*9", L"3*9 ", L"193* 3", L"\\x y.exe"}) {
         ExpectTail(text, 0, 1, 1);
+    }
 }
 
 TEST(SKeyPressTest, AStarBeforeTheBlankBelongsToTheKey)

@@ -16,8 +16,9 @@ TEST(CommandLineStripTest, ThePathOfTheProgramIsTakenOff)
 TEST(CommandLineStripTest, WithoutArgumentsNothingIsLeft)
 {
     for (const wchar_t* line : {L"", L"Quorvane.exe", L"Quorvane.exe  ", L"\"C:\\a b\\Quorvane.exe\"",
-                                L"\"C:\\a b\\Quorvane.exe\" ", L"\"C:\\no closing quote 1 2*3"})
+                                L"\"C:\\a b\\Quorvane.exe\" ", L"\"C:\\no closing quote 1 2*3"}) {
         EXPECT_EQ(CommandTail(line), L"") << testing::PrintToString(std::wstring(line));
+    }
 }
 
 TEST(CommandLineStripTest, AnArgumentThatIsQuotedAsAWholeLosesItsQuotes)

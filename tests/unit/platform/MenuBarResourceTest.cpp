@@ -8,17 +8,13 @@
 using handheld::MenuBarResource;
 using handheld::ReadMenuBarResource;
 
-namespace {
+static const std::vector<uint16_t> twoKeys = {134,    2,      0xFFFE, 112, 4,    0x10, 3, 0,
+                                              0xFFFF, 0xFFFE, 113,    0,   0x18, 4,    0, 0};
 
-const std::vector<uint16_t> twoKeys = {134,    2,      0xFFFE, 112, 4,    0x10, 3, 0,
-                                       0xFFFF, 0xFFFE, 113,    0,   0x18, 4,    0, 0};
-
-bool Read(const std::vector<uint16_t>& words, MenuBarResource& bar)
+static bool Read(const std::vector<uint16_t>& words, MenuBarResource& bar)
 {
     return ReadMenuBarResource(words.data(), words.size() * sizeof(uint16_t), bar);
 }
-
-} // namespace
 
 TEST(MenuBarResourceTest, ABarHasItsMenuAndItsKeys)
 {
@@ -29,7 +25,7 @@ TEST(MenuBarResourceTest, ABarHasItsMenuAndItsKeys)
     EXPECT_EQ(bar.buttons[0].command, 112);
     EXPECT_EQ(bar.buttons[0].textId, 3);
     EXPECT_EQ(bar.buttons[0].state, 4);
-    EXPECT_EQ(bar.buttons[0].subMenu, handheld::SoftKeyButton::NoMenu);
+    EXPECT_EQ(bar.buttons[0].subMenu, handheld::SoftKeyButton::noMenu);
     EXPECT_EQ(bar.buttons[1].command, 113);
     EXPECT_EQ(bar.buttons[1].textId, 4);
     EXPECT_EQ(bar.buttons[1].state, 0);

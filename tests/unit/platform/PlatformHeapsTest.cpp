@@ -17,13 +17,16 @@ struct Walk
     bool taken = false;
 };
 
-Walk WalkProcess(DWORD process)
+} // namespace
+
+static Walk WalkProcess(DWORD process)
 {
     Walk walk;
     const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, process);
     walk.taken = snapshot != INVALID_HANDLE_VALUE;
-    if (!walk.taken)
+    if (!walk.taken) {
         return walk;
+    }
     HEAPLIST32 list = {};
     list.dwSize = sizeof list;
     for (BOOL more = Heap32ListFirst(snapshot, &list); more; more = Heap32ListNext(snapshot, &list)) {
@@ -33,12 +36,15 @@ Walk WalkProcess(DWORD process)
         entry.dwSize = sizeof entry;
         BOOL block = Heap32First(snapshot, &entry, list.th32ProcessID, list.th32HeapID);
         walk.refused += block ? 0 : 1;
-        for (; block; block = Heap32Next(snapshot, &entry))
+        for (; block; block = Heap32Next(snapshot, &entry)) {
             walk.sum += entry.dwBlockSize;
+        }
     }
     EXPECT_TRUE(CloseToolhelp32Snapshot(snapshot));
     return walk;
 }
+
+namespace {
 
 // A program that waits for its input and is ended with the object.
 class Child
@@ -89,8 +95,9 @@ class PlatformHeapsTest : public testing::Test
 
 TEST_F(PlatformHeapsTest, AScriptedProcessHasTheBlocksOfItsScript)
 {
-    if (testing::UnitTest::GetInstance()->test_suite_to_run_count() > 1)
+    if (testing::UnitTest::GetInstance()->test_suite_to_run_count() > 1) {
         GTEST_SKIP() << "another suite may have read the profile already; run this one alone";
+    }
     const Child child(L"C:\\windows\\system32\\cmd.exe");
     const Walk walk = WalkProcess(child.Id());
     EXPECT_TRUE(walk.taken);

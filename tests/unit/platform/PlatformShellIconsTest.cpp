@@ -7,11 +7,9 @@
 
 #include <string>
 
-namespace {
+static constexpr UINT smallIconIndex = SHGFI_SYSICONINDEX | SHGFI_SMALLICON;
 
-constexpr UINT smallIconIndex = SHGFI_SYSICONINDEX | SHGFI_SMALLICON;
-
-int CountOf(DWORD_PTR list)
+static int CountOf(DWORD_PTR list)
 {
     using Count = int(WINAPI*)(HIMAGELIST);
     const HMODULE library = GetModuleHandleW(L"comctl32.dll");
@@ -21,15 +19,13 @@ int CountOf(DWORD_PTR list)
 }
 
 // -1 when the path names nothing.
-int IndexOf(const wchar_t* path)
+static int IndexOf(const wchar_t* path)
 {
     SHFILEINFOW info = {};
     info.iIcon = -1;
     SHGetFileInfo(path, 0, &info, sizeof info, smallIconIndex);
     return info.iIcon;
 }
-
-} // namespace
 
 TEST(PlatformShellIconsTest, TheRootHasTheListAndAnIcon)
 {
@@ -63,8 +59,9 @@ TEST(PlatformShellIconsTest, AskingAgainAddsNoIcon)
     IndexOf(L"C:\\windows\\system32\\notepad.exe");
     const int count = CountOf(list);
     EXPECT_GE(count, 10);
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         IndexOf(L"C:\\windows\\system32\\notepad.exe");
+    }
     EXPECT_EQ(CountOf(list), count);
 }
 

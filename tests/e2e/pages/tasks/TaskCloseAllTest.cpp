@@ -13,11 +13,11 @@ using std::chrono::steady_clock;
 class TaskCloseAllTest : public TasksScreen
 {
   protected:
-    static constexpr DWORD Shown = WS_POPUP | WS_VISIBLE;
+    static constexpr DWORD shown = WS_POPUP | WS_VISIBLE;
     const Actor actor;
 
     // A window that counts its closings and stays.
-    HWND Make(const std::wstring& title, DWORD style = Shown, DWORD exStyle = 0, HWND owner = nullptr,
+    HWND Make(const std::wstring& title, DWORD style = shown, DWORD exStyle = 0, HWND owner = nullptr,
               const std::wstring& className = L"QvActor")
     {
         return actor.Make({.className = className,
@@ -43,8 +43,9 @@ TEST_F(TaskCloseAllTest, TheThirdItemOfTheMenuClosesEveryApplicationButTheProgra
     PressKey(VK_DOWN, 3);
     PressKey(VK_RETURN);
     EXPECT_TRUE(WaitFor([&] { return ListCount(list) == 2; }));
-    for (HWND window : {a, b, c})
+    for (HWND window : {a, b, c}) {
         EXPECT_FALSE(IsWindow(window));
+    }
     EXPECT_TRUE(IsWindow(today));
     EXPECT_TRUE(program->IsRunning());
     EXPECT_EQ((std::vector<HWND>{Main(), today}), Rows());
@@ -53,30 +54,32 @@ TEST_F(TaskCloseAllTest, TheThirdItemOfTheMenuClosesEveryApplicationButTheProgra
 TEST_F(TaskCloseAllTest, WindowsThatAreNoTasksAreSpared)
 {
     const HWND hidden = Make(L"Hidden", WS_POPUP);
-    const HWND disabled = Make(L"Disabled", Shown | WS_DISABLED);
-    const HWND tool = Make(L"Tool", Shown, WS_EX_TOOLWINDOW);
-    const HWND inactive = Make(L"Inactive", Shown, WS_EX_NOACTIVATE);
+    const HWND disabled = Make(L"Disabled", shown | WS_DISABLED);
+    const HWND tool = Make(L"Tool", shown, WS_EX_TOOLWINDOW);
+    const HWND inactive = Make(L"Inactive", shown, WS_EX_NOACTIVATE);
     const HWND untitled = Make(L"");
     const HWND plain = Make(L"Plain");
     Front();
-    Do(CommandCloseAll);
+    Do(commandCloseAll);
     EXPECT_EQ(1, CloseCount(plain));
-    for (HWND window : {hidden, disabled, tool, inactive, untitled})
+    for (HWND window : {hidden, disabled, tool, inactive, untitled}) {
         EXPECT_EQ(0, CloseCount(window));
+    }
 }
 
 TEST_F(TaskCloseAllTest, ProtectedClassesAreSparedWhateverTheirCase)
 {
-    const std::vector<HWND> spared = {Make(L"Shell", Shown, 0, nullptr, L"eXPLORE"),
-                                      Make(L"Home", Shown, 0, nullptr, L"DesktopExplorerWindow")};
+    const std::vector<HWND> spared = {Make(L"Shell", shown, 0, nullptr, L"eXPLORE"),
+                                      Make(L"Home", shown, 0, nullptr, L"DesktopExplorerWindow")};
     ASSERT_EQ(L"eXPLORE", ClassOf(spared[0]));
-    const HWND explorer = Make(L"Explorer", Shown, 0, nullptr, L"Explorer");
-    const HWND ownedByShell = Make(L"Owned", Shown, 0, spared[0]);
-    const HWND inner = Make(L"Inner", Shown, 0, explorer, L"eXPLORE");
+    const HWND explorer = Make(L"Explorer", shown, 0, nullptr, L"Explorer");
+    const HWND ownedByShell = Make(L"Owned", shown, 0, spared[0]);
+    const HWND inner = Make(L"Inner", shown, 0, explorer, L"eXPLORE");
     Front();
-    Do(CommandCloseAll);
-    for (HWND window : spared)
+    Do(commandCloseAll);
+    for (HWND window : spared) {
         EXPECT_EQ(0, CloseCount(window));
+    }
     EXPECT_EQ(0, CloseCount(ownedByShell));
     // Of the owner and of its window, whose own class does not matter.
     EXPECT_EQ(2, CloseCount(explorer));
@@ -86,28 +89,29 @@ TEST_F(TaskCloseAllTest, ProtectedClassesAreSparedWhateverTheirCase)
 TEST_F(TaskCloseAllTest, AnOwnerIsAskedOnceForEachEligibleWindow)
 {
     const HWND owner = Make(L"Owner");
-    const HWND first = Make(L"First", Shown, 0, owner);
-    const HWND second = Make(L"", Shown, 0, owner); // named after the owner
-    const HWND third = Make(L"Third", Shown, 0, first);
+    const HWND first = Make(L"First", shown, 0, owner);
+    const HWND second = Make(L"", shown, 0, owner); // named after the owner
+    const HWND third = Make(L"Third", shown, 0, first);
     Make(L"Hidden", WS_POPUP, 0, owner);
-    Make(L"Tool", Shown, WS_EX_TOOLWINDOW, owner);
-    Make(L"Disabled", Shown | WS_DISABLED, 0, owner);
+    Make(L"Tool", shown, WS_EX_TOOLWINDOW, owner);
+    Make(L"Disabled", shown | WS_DISABLED, 0, owner);
     Front();
-    Do(CommandCloseAll);
+    Do(commandCloseAll);
     EXPECT_EQ(4, CloseCount(owner));
-    for (HWND window : {first, second, third})
+    for (HWND window : {first, second, third}) {
         EXPECT_EQ(0, CloseCount(window));
+    }
 }
 
 TEST_F(TaskCloseAllTest, AHiddenOwnerIsAskedForItsVisibleWindows)
 {
     const HWND owner = Make(L"Owner", WS_POPUP);
-    const HWND first = Make(L"First", Shown, 0, owner);
-    Make(L"", Shown, 0, owner); // named after the owner, although that is hidden
+    const HWND first = Make(L"First", shown, 0, owner);
+    Make(L"", shown, 0, owner); // named after the owner, although that is hidden
     const HWND nameless = Make(L"", WS_POPUP);
-    Make(L"", Shown, 0, nameless);
+    Make(L"", shown, 0, nameless);
     Front();
-    Do(CommandCloseAll);
+    Do(commandCloseAll);
     EXPECT_EQ(2, CloseCount(owner));
     EXPECT_EQ(0, CloseCount(first));
     EXPECT_EQ(0, CloseCount(nameless));
@@ -117,7 +121,7 @@ TEST_F(TaskCloseAllTest, AnApplicationThatIgnoresItStaysListed)
 {
     const HWND a = Make(L"A");
     Front();
-    Do(CommandCloseAll);
+    Do(commandCloseAll);
     EXPECT_TRUE(IsWindow(a));
     EXPECT_TRUE(actor.Running());
     EXPECT_EQ(3, ListCount(list));
@@ -129,7 +133,7 @@ TEST_F(TaskCloseAllTest, TheProgramWaitsForEachAnswer)
     const HWND slow = actor.Make({.title = L"Slow", .closing = actor::Closing::Delay, .delay = 1500});
     const HWND next = other.Make(Task(L"Next"));
     FrontBefore({slow, next});
-    program->Command(CommandCloseAll);
+    program->Command(commandCloseAll);
     EXPECT_TRUE(WaitFor([&] {
         const bool nextGone = !IsWindow(next);
         const bool slowGone = !IsWindow(slow);
@@ -143,7 +147,7 @@ TEST_F(TaskCloseAllTest, TheListComesASecondAfterTheLastAnswer)
 {
     const HWND a = actor.Make(Task(L"A"));
     FrontWithoutRefreshes();
-    program->Command(CommandCloseAll);
+    program->Command(commandCloseAll);
     ASSERT_TRUE(WaitFor([=] { return !IsWindow(a); }));
     const auto gone = steady_clock::now();
     ASSERT_TRUE(WaitFor([&] { return ListCount(list) == 2; }));
@@ -156,9 +160,9 @@ TEST_F(TaskCloseAllTest, AnyPageOfTheProgramCanCloseAll)
 {
     const HWND a = Make(L"A");
     Front();
-    Do(CommandNextPage);
+    Do(commandNextPage);
     ASSERT_TRUE(program->WaitForPage(3));
-    Do(CommandCloseAll);
+    Do(commandCloseAll);
     EXPECT_EQ(1, CloseCount(a));
     EXPECT_EQ(3, program->VisiblePage());
 }

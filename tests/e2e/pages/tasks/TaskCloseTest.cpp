@@ -44,7 +44,7 @@ TEST_F(TaskCloseTest, TheNextRowsTaskIsSelectedAfterwards)
     const HWND c = actor.Make(Task(L"C"));
     FrontBefore({a, b, c});
     Select(2);
-    Do(CommandClose);
+    Do(commandClose);
     EXPECT_FALSE(IsWindow(b));
     EXPECT_EQ(4, ListCount(list));
     EXPECT_EQ(2, ListMark(list));
@@ -57,7 +57,7 @@ TEST_F(TaskCloseTest, AfterTheLastRowTheTaskAboveIsSelected)
     const HWND b = actor.Make(Task(L"B"));
     FrontBefore({Today(), a, b});
     Select(3);
-    Do(CommandClose);
+    Do(commandClose);
     EXPECT_FALSE(IsWindow(b));
     EXPECT_EQ(3, ListCount(list));
     EXPECT_EQ(2, ListMark(list));
@@ -70,7 +70,7 @@ TEST_F(TaskCloseTest, ATaskThatStaysLosesTheSelectionToTheNextAllTheSame)
     const HWND b = actor.Make(Task(L"B"));
     FrontBefore({a, b});
     Select(1);
-    Do(CommandClose);
+    Do(commandClose);
     EXPECT_EQ(1, CloseCount(a));
     EXPECT_TRUE(IsWindow(a));
     EXPECT_EQ(4, ListCount(list));
@@ -84,7 +84,7 @@ TEST_F(TaskCloseTest, TheTopOwnerIsAskedAndNotItsVisibleWindow)
     const HWND window = actor.Make({.title = L"Window", .owner = owner, .closing = actor::Closing::Ignore});
     FrontBefore({window});
     Select(1);
-    Do(CommandClose);
+    Do(commandClose);
     EXPECT_EQ(1, CloseCount(owner));
     EXPECT_EQ(0, CloseCount(window));
 }
@@ -94,7 +94,7 @@ TEST_F(TaskCloseTest, TheListComesHalfASecondAfterTheAnswer)
     const HWND a = actor.Make(Task(L"A"));
     FrontWithoutRefreshes();
     Select(1);
-    program->Command(CommandClose);
+    program->Command(commandClose);
     ASSERT_TRUE(WaitFor([=] { return !IsWindow(a); }));
     const auto gone = steady_clock::now();
     ASSERT_TRUE(WaitFor([&] { return ListCount(list) == 2; }));
@@ -108,8 +108,8 @@ TEST_F(TaskCloseTest, TheProgramWaitsForAnApplicationThatDoesNotAnswer)
     const HWND slow = actor.Make({.title = L"Slow", .closing = actor::Closing::Delay, .delay = 2000});
     FrontBefore({slow});
     Select(1);
-    program->Command(CommandClose);
-    program->Command(CommandNextPage); // carried out only after the closing
+    program->Command(commandClose);
+    program->Command(commandNextPage); // carried out only after the closing
     EXPECT_TRUE(WaitFor([&] {
         const int page = program->VisiblePage();
         const bool gone = !IsWindow(slow);
@@ -125,15 +125,15 @@ TEST_F(TaskCloseTest, AnApplicationThatAsksItsUserHoldsTheProgramUpAndMayStay)
     const HWND asking = actor.Make({.title = L"Asking", .closing = actor::Closing::Ask});
     FrontBefore({asking});
     Select(1);
-    program->Command(CommandClose);
+    program->Command(commandClose);
     const HWND box = WaitForTopWindow({.className = L"#32770", .process = actor.Process()});
     ASSERT_TRUE(box);
-    program->Command(CommandNextPage);
+    program->Command(commandNextPage);
     EXPECT_FALSE(WaitFor([&] { return program->VisiblePage() != 1; }, milliseconds(800)));
     PostMessageW(box, WM_COMMAND, IDNO, 0);
     EXPECT_TRUE(program->WaitForPage(3));
     EXPECT_TRUE(IsWindow(asking));
-    Do(CommandShowTasks);
+    Do(commandShowTasks);
     EXPECT_EQ(3, ListCount(list));
 }
 
@@ -148,12 +148,12 @@ TEST_F(TaskCloseTest, ProtectedClassesAreRefusedWhateverTheirCase)
         ASSERT_EQ(name, ClassOf(shell));
         FrontBefore({shell});
         Select(1);
-        program->Command(CommandClose);
+        program->Command(commandClose);
         const HWND notice = WaitForNotice();
         ASSERT_TRUE(notice) << testing::PrintToString(std::wstring(name));
         EXPECT_TRUE(NoticeSays(Main(), notice, L"It's forbidden to end this application!"));
         HideNotice();
-        Do(CommandRefresh); // past the command
+        Do(commandRefresh); // past the command
         EXPECT_EQ(0, CloseCount(shell)) << testing::PrintToString(std::wstring(name));
     }
 }
@@ -168,7 +168,7 @@ TEST_F(TaskCloseTest, ARefusalListsNothingAgain)
     const int row = ListMark(list);
     FrontWithoutRefreshes();
     actor.Vanish(other);
-    program->Command(CommandClose);
+    program->Command(commandClose);
     ASSERT_TRUE(WaitForNotice());
     EXPECT_EQ(4, ListCount(list));
     EXPECT_EQ(row, ListMark(list));
@@ -180,7 +180,7 @@ TEST_F(TaskCloseTest, OtherClassesAreNotProtected)
         const HWND window = Ignoring(L"Plain", name);
         FrontBefore({window});
         Select(1);
-        Do(CommandClose);
+        Do(commandClose);
         EXPECT_EQ(1, CloseCount(window)) << testing::PrintToString(std::wstring(name));
         EXPECT_FALSE(program->Notice());
         actor.Vanish(window);
@@ -194,7 +194,7 @@ TEST_F(TaskCloseTest, TheClassOfTheTopOwnerProtectsAndNotThatOfItsWindow)
     ASSERT_TRUE(actor.Make({.title = L"Window", .owner = owner}));
     Front();
     Select(1);
-    program->Command(CommandClose);
+    program->Command(commandClose);
     EXPECT_TRUE(WaitForNotice());
     EXPECT_EQ(0, CloseCount(owner));
 }
@@ -206,7 +206,7 @@ TEST_F(TaskCloseTest, ATaskThatHasGoneLeavesTheListWithoutAWord)
     Select(1);
     actor.Vanish(a);
     ASSERT_EQ(3, ListCount(list)) << "refreshed too early";
-    Do(CommandClose);
+    Do(commandClose);
     EXPECT_EQ(2, ListCount(list));
     EXPECT_EQ(1, ListMark(list));
     EXPECT_FALSE(program->Notice());
@@ -215,6 +215,6 @@ TEST_F(TaskCloseTest, ATaskThatHasGoneLeavesTheListWithoutAWord)
 TEST_F(TaskCloseTest, ClosingItsOwnRowEndsTheProgram)
 {
     Select(0);
-    program->Command(CommandClose);
-    EXPECT_EQ(0u, program->ExitCode(Patience).value_or(99));
+    program->Command(commandClose);
+    EXPECT_EQ(0u, program->ExitCode(patience).value_or(99));
 }

@@ -60,7 +60,7 @@ TEST_F(TaskHomeTest, OtherUntitledWindowsAreNotListed)
 TEST_F(TaskHomeTest, ClosingTheHomeScreenIsForbidden)
 {
     Select(1);
-    program->Command(CommandClose);
+    program->Command(commandClose);
     const HWND notice = WaitForNotice();
     ASSERT_TRUE(notice);
     EXPECT_TRUE(NoticeSays(Main(), notice, L"It's forbidden to end this application!"));

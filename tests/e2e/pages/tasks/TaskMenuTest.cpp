@@ -22,7 +22,9 @@ std::ostream& operator<<(std::ostream& stream, const Item& item)
     return stream << item.command << " " << testing::PrintToString(item.text);
 }
 
-std::vector<Item> ItemsOf(HMENU menu)
+} // namespace
+
+static std::vector<Item> ItemsOf(HMENU menu)
 {
     std::vector<Item> items;
     for (int i = 0; i < GetMenuItemCount(menu); i++) {
@@ -32,8 +34,6 @@ std::vector<Item> ItemsOf(HMENU menu)
     }
     return items;
 }
-
-} // namespace
 
 class TaskMenuTest : public TasksScreen
 {
@@ -122,5 +122,5 @@ TEST_F(TaskMenuTest, RefreshListsAgain)
 TEST_F(TaskMenuTest, ExitEndsTheProgram)
 {
     Choose(9);
-    EXPECT_EQ(0u, program->ExitCode(Patience).value_or(99));
+    EXPECT_EQ(0u, program->ExitCode(patience).value_or(99));
 }

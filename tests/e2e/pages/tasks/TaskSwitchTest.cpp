@@ -28,7 +28,7 @@ class TaskSwitchTest : public TasksScreen
     // Whether all that the program has been given is carried out, and still nothing has happened.
     void ExpectNothingHappened() const
     {
-        program->Command(CommandNextPage);
+        program->Command(commandNextPage);
         ASSERT_TRUE(program->WaitForPage(3));
         EXPECT_EQ(Main(), GetForegroundWindow());
         EXPECT_FALSE(program->Notice());
@@ -89,7 +89,7 @@ TEST_F(TaskSwitchTest, TheWindowsOfTheTaskComeForwardWithIt)
     FrontBefore({owned});
     Select(1);
     ASSERT_EQ(0, Picture::OfScreen().Count(red));
-    program->Command(CommandSwitch);
+    program->Command(commandSwitch);
     EXPECT_TRUE(InFront(owner));
     EXPECT_TRUE(WaitFor([&] { return Picture::OfScreen().Count(red) == 60 * 40; }));
 }
@@ -103,7 +103,7 @@ TEST_F(TaskSwitchTest, TheWindowsOfAHiddenOwnerComeForward)
     FrontBefore({owned});
     Select(1);
     ASSERT_EQ(0, Picture::OfScreen().Count(red));
-    program->Command(CommandSwitch);
+    program->Command(commandSwitch);
     EXPECT_TRUE(WaitFor([&] { return Picture::OfScreen().Count(red) == 60 * 40; }));
 }
 
@@ -113,7 +113,7 @@ TEST_F(TaskSwitchTest, TheTasksOwnDialogGetsTheInput)
     const HWND dialog = actor.Make({.title = L"Dialog", .owner = owner});
     FrontBefore({dialog});
     Select(1);
-    program->Command(CommandSwitch);
+    program->Command(commandSwitch);
     EXPECT_TRUE(InFront(dialog));
 }
 
@@ -122,7 +122,7 @@ TEST_F(TaskSwitchTest, SwitchingToTheProgramItselfKeepsItInFront)
     ASSERT_TRUE(actor.Make(Task(L"A")));
     Front();
     Select(0);
-    program->Command(CommandSwitch);
+    program->Command(commandSwitch);
     ExpectNothingHappened();
 }
 
@@ -133,7 +133,7 @@ TEST_F(TaskSwitchTest, NothingHappensWhenTheTaskHasGone)
     Select(1);
     actor.Vanish(a);
     ASSERT_EQ(3, ListCount(list)) << "refreshed too early";
-    program->Command(CommandSwitch);
+    program->Command(commandSwitch);
     ExpectNothingHappened();
 }
 

@@ -9,11 +9,7 @@ using namespace rig;
 using Windows = std::vector<HWND>;
 using TasksListTest = TasksScreen;
 
-namespace {
-
-constexpr DWORD Shown = WS_POPUP | WS_VISIBLE;
-
-} // namespace
+static constexpr DWORD shown = WS_POPUP | WS_VISIBLE;
 
 TEST_F(TasksListTest, EveryApplicationIsListedFrontMostFirstTheProgramIncluded)
 {
@@ -34,7 +30,7 @@ TEST_F(TasksListTest, HiddenDisabledToolAndUnactivatableWindowsAreNotListed)
     const Actor actor;
     const HWND plain = actor.Make(Task(L"Plain"));
     ASSERT_TRUE(actor.Make({.title = L"Hidden", .style = WS_POPUP}));
-    ASSERT_TRUE(actor.Make({.title = L"Disabled", .style = Shown | WS_DISABLED}));
+    ASSERT_TRUE(actor.Make({.title = L"Disabled", .style = shown | WS_DISABLED}));
     ASSERT_TRUE(actor.Make({.title = L"Tool", .exStyle = WS_EX_TOOLWINDOW}));
     ASSERT_TRUE(actor.Make({.title = L"No activation", .exStyle = WS_EX_NOACTIVATE}));
     Front();
@@ -45,12 +41,13 @@ TEST_F(TasksListTest, AWindowIsJudgedByItselfAndNotByItsOwner)
 {
     const Actor actor;
     const HWND hidden = actor.Make({.title = L"Hidden", .style = WS_POPUP});
-    const HWND disabled = actor.Make({.title = L"Disabled", .style = Shown | WS_DISABLED});
+    const HWND disabled = actor.Make({.title = L"Disabled", .style = shown | WS_DISABLED});
     const HWND tool = actor.Make({.title = L"Tool", .exStyle = WS_EX_TOOLWINDOW});
     const HWND inactive = actor.Make({.title = L"Inactive", .exStyle = WS_EX_NOACTIVATE});
     Windows owned;
-    for (HWND owner : {hidden, disabled, tool, inactive})
+    for (HWND owner : {hidden, disabled, tool, inactive}) {
         owned.push_back(actor.Make({.title = L"Owned", .owner = owner}));
+    }
     FrontBefore(owned);
     // The rows are those of the owners, whatever these are like.
     EXPECT_EQ((Windows{Main(), hidden, disabled, tool, inactive, Today()}), Rows());
@@ -62,7 +59,7 @@ TEST_F(TasksListTest, UnlistedWindowsOfAListableOwnerMakeNoRow)
     const HWND hidden = actor.Make({.title = L"Hidden", .style = WS_POPUP});
     ASSERT_TRUE(actor.Make({.title = L"Tool", .exStyle = WS_EX_TOOLWINDOW, .owner = hidden}));
     ASSERT_TRUE(actor.Make({.title = L"Inactive", .exStyle = WS_EX_NOACTIVATE, .owner = hidden}));
-    ASSERT_TRUE(actor.Make({.title = L"Disabled", .style = Shown | WS_DISABLED, .owner = hidden}));
+    ASSERT_TRUE(actor.Make({.title = L"Disabled", .style = shown | WS_DISABLED, .owner = hidden}));
     Front();
     EXPECT_EQ((Windows{Main(), Today()}), Rows());
 }
@@ -141,7 +138,7 @@ TEST_F(TasksListTest, ARefreshFollowsTheSelectedTaskToItsNewRow)
     EXPECT_EQ(2, ListSelected(list));
     EXPECT_EQ(a, SelectedTask());
     actor.Vanish(b);
-    Do(CommandRefresh);
+    Do(commandRefresh);
     EXPECT_EQ(1, ListMark(list));
     EXPECT_EQ(a, SelectedTask());
 }
@@ -156,11 +153,12 @@ TEST_F(TasksListTest, ARefreshListsWhatHasComeAndDropsWhatHasGone)
     // Made behind the program, which so keeps the activation and refreshes nothing by itself.
     const HWND b = actor.Make({.title = L"B", .style = WS_POPUP});
     const HWND c = actor.Make({.title = L"C", .style = WS_POPUP});
-    for (HWND window : {b, c})
+    for (HWND window : {b, c}) {
         SetWindowPos(window, Main(), 0, 0, 0, 0,
                      SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW | SWP_NOOWNERZORDER);
+    }
     EXPECT_EQ(3, ListCount(list));
-    program->Command(CommandRefresh);
+    program->Command(commandRefresh);
     EXPECT_TRUE(WaitFor([&] { return ListCount(list) == 4; }));
     FrontBefore({b, c});
     EXPECT_EQ((Windows{Main(), b, c, Today()}), Rows());
@@ -175,12 +173,12 @@ TEST_F(TasksListTest, WithoutItsTaskTheSelectionStaysOnTheRowOrGoesToTheFirst)
     FrontBefore({a, Today(), b});
     Select(1);
     one.Vanish(a);
-    Do(CommandRefresh);
+    Do(commandRefresh);
     EXPECT_EQ(1, ListMark(list));
     // The last row's task: no such row is left.
     Select(2);
     other.Vanish(b);
-    Do(CommandRefresh);
+    Do(commandRefresh);
     EXPECT_EQ(0, ListMark(list));
     EXPECT_EQ(0, ListSelected(list));
 }
@@ -188,9 +186,9 @@ TEST_F(TasksListTest, WithoutItsTaskTheSelectionStaysOnTheRowOrGoesToTheFirst)
 TEST_F(TasksListTest, ShowingThePageSelectsTheFirstRow)
 {
     Select(1);
-    Do(CommandNextPage);
+    Do(commandNextPage);
     ASSERT_TRUE(program->WaitForPage(3));
-    Do(CommandShowTasks);
+    Do(commandShowTasks);
     ASSERT_TRUE(program->WaitForPage(1));
     EXPECT_EQ(0, ListMark(list));
     EXPECT_EQ(0, ListSelected(list));

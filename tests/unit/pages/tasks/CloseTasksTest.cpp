@@ -22,8 +22,9 @@ class CloseTasksTest : public testing::Test
     // The windows that were asked to close, in order.
     std::vector<HWND> Close(HWND spared = nullptr)
     {
-        for (HWND window : windows.order)
+        for (HWND window : windows.order) {
             EXPECT_TRUE(CloseAllTasksProc(window, reinterpret_cast<LPARAM>(spared)));
+        }
         std::vector<HWND> asked;
         for (const SentMessage& each : windows.sent) {
             EXPECT_EQ(each.message, static_cast<UINT>(WM_CLOSE));

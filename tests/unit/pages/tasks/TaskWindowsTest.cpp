@@ -143,11 +143,13 @@ TEST(TaskWindowsTest, AWindowThatHasGoneHasNoTextsAndNoProcess)
 TEST(TaskWindowsTest, TheShellsTwoClassesAreProtectedInAnyCase)
 {
     for (const wchar_t* className : {L"DesktopExplorerWindow", L"desktopexplorerwindow",
-                                     L"DESKTOPEXPLORERWINDOW", L"Explore", L"EXPLORE"})
+                                     L"DESKTOPEXPLORERWINDOW", L"Explore", L"EXPLORE"}) {
         EXPECT_TRUE(IsProtectedClass(className)) << className;
+    }
     for (const wchar_t* className :
-         {L"", L"Explorer", L"Explor", L" Explore", L"MSStart", L"DesktopExplorerWindow2"})
+         {L"", L"Explorer", L"Explor", L" Explore", L"MSStart", L"DesktopExplorerWindow2"}) {
         EXPECT_FALSE(IsProtectedClass(className)) << className;
+    }
 }
 
 TEST(TaskWindowsTest, TheProcessIsThatOfTheWindowsThread)

@@ -1,4 +1,5 @@
-// An application object without windows, and the Start menu's programs, for the pages' functions that ask them.
+// An application object without windows, and the Start menu's programs, for the pages' functions that ask
+// them.
 #pragma once
 
 #include "framework/CVireoApp.h"

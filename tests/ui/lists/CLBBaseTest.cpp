@@ -317,3 +317,25 @@ TEST_F(CLBBaseTest, TheControlOutlivesItsObject)
     EXPECT_EQ(GetWindowLongPtrW(control, GWLP_USERDATA), 0);
     EXPECT_EQ(SendMessageW(control, LVM_GETITEMCOUNT, 0, 0), 0);
 }
+
+// As when what the control notifies its page of ends the program.
+TEST_F(CLBBaseTest, AListThatGoesDuringAMessageIsLeftAlone)
+{
+    auto shortLived = std::make_unique<TestList>();
+    ListOwner ownerOfIt(*shortLived);
+    shortLived->Construct(ownerOfIt.window);
+    HWND control = shortLived->Window();
+    const SPY(CreateCompatibleDC) context;
+    const SPY(CallWindowProcW)
+        call([&](WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+            const LRESULT result = call.Real(procedure, window, message, wParam, lParam);
+            if (message == WM_SIZE) {
+                shortLived.reset();
+            }
+            return result;
+        });
+    SendMessageW(control, WM_SIZE, 0, MAKELPARAM(30, 30));
+    EXPECT_EQ(shortLived, nullptr);
+    EXPECT_TRUE(context.calls.empty()) << "no buffer of the new size";
+    EXPECT_EQ(SendMessageW(control, LVM_GETITEMCOUNT, 0, 0), 0);
+}

@@ -1,9 +1,12 @@
 // The shell's soft-key bars: what SHCreateMenuBar takes, and whose words a bar shows.
+#include "platform/pc/common/SoftKeys.h"
+#include "resources/ids.h"
 #include "tests/ui/Pixels.h"
 #include "tests/ui/UiTest.h"
 #include "tests/ui/platform/bars.h"
 
 #include <cstddef>
+#include <thread>
 
 class MenuBarTest : public UiTest
 {
@@ -133,4 +136,53 @@ TEST_F(MenuBarTest, ABarIsHiddenWhileItsOwnerIsMinimised)
     EXPECT_FALSE(IsWindowVisible(bar));
     SetForegroundWindow(owner);
     EXPECT_TRUE(PumpUntil([=] { return IsWindowVisible(bar) != FALSE; }));
+}
+
+// Has a window closed by another thread once the menu that it opens is there. Then nothing else happens: any
+// message of its own would let the menu's loop see that its menu has gone.
+class OwnerThatGoes
+{
+    static constexpr DWORD longest = 5000; // ms that a menu may take to open, or stay open without its owner
+
+    HANDLE closed = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    bool stayed = false;
+    std::thread other;
+
+  public:
+    explicit OwnerThatGoes(HWND owner)
+    {
+        other = std::thread([=, this, menuThread = GetCurrentThreadId()] {
+            const ULONGLONG begin = GetTickCount64();
+            while (FindWindowW(L"#32768", nullptr) == nullptr && GetTickCount64() < begin + longest) {
+                Sleep(20);
+            }
+            SendMessageW(owner, WM_CLOSE, 0, 0);
+            if (WaitForSingleObject(closed, longest) != WAIT_OBJECT_0) {
+                stayed = true;
+                PostThreadMessageW(menuThread, WM_CANCELMODE, 0, 0);
+            }
+        });
+    }
+    ~OwnerThatGoes() { CloseHandle(closed); }
+    OwnerThatGoes(const OwnerThatGoes&) = delete;
+    OwnerThatGoes& operator=(const OwnerThatGoes&) = delete;
+
+    // Asked once, when the menu's loop has ended: whether it has not by itself.
+    bool Stayed()
+    {
+        SetEvent(closed);
+        other.join();
+        return stayed;
+    }
+};
+
+TEST_F(MenuBarTest, AMenuWhoseOwnerIsDestroyedCloses)
+{
+    ShowWindow(owner, SW_SHOW);
+    const HWND bar = Bar(IDB_TASKS);
+    OwnerThatGoes going(owner);
+    SendMessageW(bar, handheld::WM_PRESS_SOFT_KEY, 1, 0);
+    EXPECT_FALSE(going.Stayed());
+    EXPECT_FALSE(IsWindow(owner));
+    EXPECT_FALSE(IsWindow(bar));
 }

@@ -75,7 +75,7 @@ TEST(SKeyPressTest, TheTextIsTrimmedFirst)
     ExpectTail(L" 193 3*  ", 193, 3, 1);
 }
 
-TEST(SKeyPressTest, TheFirstBlankEndsTheKeyAndTheFirstStarTheShortToken)
+TEST(SKeyPressTest, TheFirstBlankEndsTheKeyAndTheFirstStarThePressesToken)
 {
     ExpectTail(L"193 3*9*8", 193, 3, 2, L"", L"9*8");
     ExpectTail(L"193 ***", 193, 1, 2, L"", L"**");

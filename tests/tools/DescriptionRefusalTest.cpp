@@ -99,8 +99,9 @@ TEST(DescriptionRefusalTest, FoldersAreBelowAStandardFolder)
     }
     ExpectValueRefused("folder", R"(%CE1%\)", "a text is empty");
     ExpectValueRefused("folder", R"(%CE1%\\One)", "a text is empty");
-    for (const char* folder : {R"(%CE1%\ One)", R"(%CE1%\One \Two)"})
+    for (const char* folder : {R"(%CE1%\ One)", R"(%CE1%\One \Two)"}) {
         ExpectValueRefused("folder", folder, "begins or ends with a blank");
+    }
     ExpectValueRefused("folder", R"(%CE1%\..)", "cannot be a file name");
     ExpectValueRefused("folder", R"(%CE1%\%CE2%)", "cannot be a file name");
     EXPECT_FALSE(WriteInstructions(DescriptionWith("folder", "folder = %CE17%")).xml.empty());
@@ -161,10 +162,11 @@ TEST(DescriptionRefusalTest, MoreShortcutsThanTheInstructionsCanCount)
     static constexpr int mostLinks = 0xFFFF;
     static constexpr int digit = 41; // 41 * 41 * 41 paths are enough, of few different parts
     std::string description = Joined(GoodDescription());
-    for (int i = 0; i <= mostLinks; i++)
+    for (int i = 0; i <= mostLinks; i++) {
         description += R"(shortcut = %CE11%\)" + std::to_string(i / digit / digit) + "\\" +
                        std::to_string(i / digit % digit) + "\\" + std::to_string(i % digit) +
                        ".lnk > a.exe\n";
+    }
     const TempFolder folder;
     const std::string file = folder.Put("description", Bytes(description.begin(), description.end()));
     const ProgramResult result = RunCabheader({file, folder.Path("")});

@@ -20,16 +20,16 @@ typedef struct
 // ever awaited.
 enum
 {
-    rangeCount = 16
+    RangeCount = 16
 };
-static __thread SerialRange ranges[rangeCount];
+static __thread SerialRange ranges[RangeCount];
 static __thread unsigned int current;
 
 static XErrorHandler programsHandler; // null: not yet known
 
 static int HandleError(Display* display, XErrorEvent* error)
 {
-    for (int i = 0; i < rangeCount; i++) {
+    for (int i = 0; i < RangeCount; i++) {
         if (ranges[i].display == display && error->serial >= ranges[i].first &&
             error->serial < ranges[i].end) {
             return 0;
@@ -66,6 +66,6 @@ void BeginOwnRequests(Display* display)
 void EndOwnRequests(Display* display)
 {
     ranges[current].end = XNextRequest(display);
-    current = (current + 1) % rangeCount;
+    current = (current + 1) % RangeCount;
     XUnlockDisplay(display);
 }

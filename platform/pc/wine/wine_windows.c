@@ -73,14 +73,14 @@ int IsLowestWindow(Window window)
 {
     enum
     {
-        room = 1024
+        Room = 1024
     };
     const Core* core = LoadCore();
-    void* windows[room]; // front-most first
+    void* windows[Room]; // front-most first
     uint32_t count = 0;
     if (!core ||
-        core->buildWindowList(core->getThreadDesktop(ThisThread()), 0, 0, 0, 0, room, windows, &count) != 0 ||
-        count > room) {
+        core->buildWindowList(core->getThreadDesktop(ThisThread()), 0, 0, 0, 0, Room, windows, &count) != 0 ||
+        count > Room) {
         return 0;
     }
     while (count > 0) {

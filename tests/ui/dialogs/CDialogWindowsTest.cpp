@@ -173,9 +173,11 @@ TEST_F(CDialogWindowsTest, TheTreeAsksForAllKeysAndHasTheFocus)
 TEST_F(CDialogWindowsTest, OkAndActionAcceptCancelCancelsAndOthersDoNothing)
 {
     AddTask(L"First");
-    for (const auto& [command, result] : std::vector<std::pair<WPARAM, int>>{{1, 1}, {6, 1}, {2, 2}}) {
-        EXPECT_EQ(Open(nullptr, [&](Opened& opened) { SendMessageW(opened.dialog, WM_COMMAND, command, 0); }),
-                  result);
+    const std::pair<WPARAM, int> answers[] = {{1, 1}, {6, 1}, {2, 2}};
+    for (const auto& answer : answers) {
+        const int result =
+            Open(nullptr, [&](Opened& opened) { SendMessageW(opened.dialog, WM_COMMAND, answer.first, 0); });
+        EXPECT_EQ(result, answer.second);
     }
     Open(nullptr, [](Opened& opened) {
         for (const WPARAM command : {0, 3, 113, 114, 116, 121, 32773, 32793}) {
@@ -234,11 +236,12 @@ TEST_F(CDialogWindowsTest, TextsAreWholeWithinTheirBuffers)
         {std::wstring(260, L'"'), std::wstring(256, L'c')},
         {std::wstring(5000, L'x'), L"c"},
         {L"100% & \"quoted\" %s%n Проводник メモ帳", L"Класс %d"}};
-    for (const auto& [t, c] : texts) {
-        title = t;
-        className = c;
+    for (const auto& text : texts) {
+        title = text.first;
+        className = text.second;
         Open(nullptr, [&](Opened& opened) {
-            const std::wstring expected = L"\"" + t.substr(0, 259) + L"\" - " + c.substr(0, 256);
+            const std::wstring expected =
+                L"\"" + text.first.substr(0, 259) + L"\" - " + text.second.substr(0, 256);
             HTREEITEM item = Next(opened.tree, TVGN_CHILD, Root(opened.tree));
             EXPECT_EQ(Item(opened.tree, item).first, expected);
             End(opened);

@@ -70,15 +70,18 @@ TEST_F(CStartProgramsTest, AnEmptySlotHasNone)
 
 TEST_F(CStartProgramsTest, ASlotThatDoesNotExistHasNone)
 {
-    for (const uint32_t slot : {0u, 7u, 8u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu})
+    for (const uint32_t slot : {0u, 7u, 8u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu}) {
         EXPECT_EQ(programs.KnownIcon(slot), -1) << slot;
+    }
 }
 
 TEST_F(CStartProgramsTest, ASlotThatALongerListLeftBehindHasNone)
 {
     Add(L"\\x.lnk").icon = 5;
-    for (const int index : {1, 2, 0x7FFFFFFF, -2, static_cast<int>(0x80000000)})
+    for (const int index : {1, 2, 0x7FFFFFFF, -2, static_cast<int>(0x80000000)}) {
         AddSlot(index);
-    for (uint32_t slot = 0; slot < 5; slot++)
+    }
+    for (uint32_t slot = 0; slot < 5; slot++) {
         EXPECT_EQ(programs.KnownIcon(slot), -1) << slot;
+    }
 }

@@ -27,15 +27,17 @@ class TaskEnumerationTest : public testing::Test
 
     void Enumerate()
     {
-        for (HWND window : windows.order)
+        for (HWND window : windows.order) {
             EXPECT_TRUE(EnumTasksProc(window, reinterpret_cast<LPARAM>(&tasks)));
+        }
     }
 
     std::vector<std::wstring> Names()
     {
         std::vector<std::wstring> names;
-        for (uint32_t i = 0; i < tasks.Count(); i++)
+        for (uint32_t i = 0; i < tasks.Count(); i++) {
             names.emplace_back(tasks.At(i)->name.Buffer());
+        }
         return names;
     }
 
@@ -186,13 +188,15 @@ TEST_F(TaskEnumerationTest, ATitledHomeScreenKeepsItsTitle)
 
 TEST_F(TaskEnumerationTest, NamesHaveAtMost259Characters)
 {
-    for (const size_t length : {1u, 255u, 259u, 260u, 261u, 5000u})
+    for (const size_t length : {1u, 255u, 259u, 260u, 261u, 5000u}) {
         Add((std::wstring(length - 1, L'"') + L"%").c_str());
+    }
     Enumerate();
     ASSERT_EQ(tasks.Count(), 6u);
     const size_t kept[] = {1, 255, 259, 259, 259, 259};
-    for (uint32_t i = 0; i < 6; i++)
+    for (uint32_t i = 0; i < 6; i++) {
         EXPECT_EQ(tasks.At(i)->name.Length(), kept[i]);
+    }
 }
 
 TEST_F(TaskEnumerationTest, ARecordDescribesTheTopOwnersProcess)
@@ -362,17 +366,20 @@ TEST_F(TaskEnumerationTest, WindowsThatVanishAtAnyMomentDoNoHarm)
 
 TEST_F(TaskEnumerationTest, ARecordIsAllThatIsAllocated)
 {
-    for (int i = 0; i < 8; i++)
+    for (int i = 0; i < 8; i++) {
         Add(L"");
-    for (int i = 0; i < 3; i++)
+    }
+    for (int i = 0; i < 3; i++) {
         Add(L"Word", i ? windows.order.back() : nullptr);
+    }
     heaps.snapshots.reserve(100); // the script's own blocks are not counted
     heaps.snapshotFlags.reserve(100);
     windows.askedPaths.reserve(100);
     windows.askedPathSizes.reserve(100);
     const size_t before = LiveBlocks();
-    for (HWND window : windows.order)
+    for (HWND window : windows.order) {
         EnumTasksProc(window, reinterpret_cast<LPARAM>(&tasks));
+    }
     const size_t during = LiveBlocks();
     tasks.Clear();
     EXPECT_GT(during, before);

@@ -7,8 +7,9 @@
 // Known icons 100 to 107, so that each slot shows.
 static void InstallAll(TestHost& host)
 {
-    for (int slot = 0; slot < 8; slot++)
+    for (int slot = 0; slot < 8; slot++) {
         host.SetKnownIcon(static_cast<uint32_t>(slot), 100 + slot);
+    }
 }
 
 static const struct
@@ -111,16 +112,18 @@ TEST(TaskIconTest, ThePhoneProgramIsRecognisedByItsExactLetters)
     TestHost host;
     InstallAll(host);
     for (const wchar_t* path :
-         {L"\\Windows\\Cprog.exe", L"\\Windows\\CPROG.EXE", L"\\Windows\\cprog.ex", L""})
+         {L"\\Windows\\Cprog.exe", L"\\Windows\\CPROG.EXE", L"\\Windows\\cprog.ex", L""}) {
         EXPECT_EQ(TaskIconForPath(2, path, host.programs), 2) << path;
+    }
 }
 
 TEST(TaskIconTest, OnlyAGenericIconIsReplacedByThePhones)
 {
     TestHost host;
     InstallAll(host);
-    for (const int index : {0, 1, 3, 7, 8, 101})
+    for (const int index : {0, 1, 3, 7, 8, 101}) {
         EXPECT_EQ(TaskIconForPath(index, L"\\Windows\\cprog.exe", host.programs), index);
+    }
 }
 
 TEST(TaskIconTest, WithoutAPhoneShortcutThePhoneProgramIsGeneric)

@@ -24,6 +24,13 @@ CVireoView* CVireoApp::FindView(int32_t id) const
     return nullptr;
 }
 
+static void ShowFocused(HWND window)
+{
+    ShowWindow(window, SW_SHOWNORMAL);
+    SetFocus(window);
+    UpdateWindow(window);
+}
+
 void CVireoApp::ActivateView(int32_t id)
 {
     CVireoView* previous = activeView;
@@ -33,18 +40,18 @@ void CVireoApp::ActivateView(int32_t id)
     CVireoView* view = FindView(id);
     Assert(view != nullptr, ErrorNotFound, L"CVireoApp::ActivateView", __LINE__);
 
-    // Whatever lets messages in may end the main window with all its views, or show another one: only the
-    // copies of what the view says are used meanwhile.
-    HWND shown = view->Window();
-    const uint32_t menuBarId = view->MenuBarId();
+    // Whatever lets messages in may end the main window with all its views, or show another one, whose turn
+    // it is then.
     activeView = view;
     RECT client = {};
     GetClientRect(mainWindow, &client);
-    MoveWindow(shown, 0, 0, client.right, client.bottom, FALSE);
-    CreateMenuBar(mainWindow, menuBarId);
-    ShowWindow(shown, SW_SHOWNORMAL);
-    SetFocus(shown);
-    UpdateWindow(shown);
+    MoveWindow(view->Window(), 0, 0, client.right, client.bottom, FALSE);
+    if (activeView == view) {
+        CreateMenuBar(mainWindow, view->MenuBarId());
+    }
+    if (activeView == view) {
+        ShowFocused(view->Window());
+    }
     if (activeView == view) {
         view->OnActivate(previous != nullptr ? previous->Id() : 0);
     }
@@ -126,9 +133,9 @@ void CVireoApp::EndAllDialogs()
 
 bool CVireoApp::CreateMenuBar(HWND parent, uint32_t menuBarId)
 {
-    if (menuBar != nullptr) {
-        DestroyWindow(menuBar);
+    if (HWND old = menuBar) {
         menuBar = nullptr;
+        DestroyWindow(old);
     }
     SHMENUBARINFO info = {};
     info.cbSize = sizeof info;

@@ -3,6 +3,7 @@
 
 #include "framework/Assert.h"
 #include "framework/CVireoApp.h"
+#include "resources/ids.h"
 
 CVireoDialog::~CVireoDialog() = default;
 
@@ -115,8 +116,7 @@ void CVireoDialog::End(int result)
 
 bool CVireoDialog::EndOnCloseCommand(uint32_t commandId)
 {
-    static constexpr uint32_t actionKey = 6;
-    if (commandId != IDOK && commandId != actionKey && commandId != IDCANCEL) {
+    if (commandId != IDOK && commandId != CMD_DIALOG_ACTION && commandId != IDCANCEL) {
         return false;
     }
     End(commandId == IDCANCEL ? IDCANCEL : IDOK);

@@ -82,6 +82,9 @@ bool CVireoDialog::Initialise()
         return false;
     }
     Place();
+    if (!IsWindow(window)) {
+        return false; // it went meanwhile, and is not to be listed as open any more
+    }
     CVireoApp::Current()->DialogOpened(this);
     OnInitDialog();
     return true;

@@ -51,8 +51,13 @@ void CViewTasks::FillList(int row)
 
 void CViewTasks::Rebuild(HWND keepSelected)
 {
+    if (rebuilding) {
+        return; // the shell's answers about icons may let a refresh in
+    }
+    rebuilding = true;
     tasks.Clear();
     EnumWindows(EnumTasksProc, reinterpret_cast<LPARAM>(&tasks));
+    rebuilding = false;
     list.SetCount(tasks.Count());
     for (uint32_t i = 0; keepSelected != nullptr && i < tasks.Count(); ++i) {
         if (tasks.At(i)->window == keepSelected) {

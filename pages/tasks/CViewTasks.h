@@ -10,6 +10,7 @@
 class CViewTasks : public CListPage
 {
     CTaskRecords tasks;
+    bool rebuilding = false;
     bool firstShow = true;
     CLB_Tasks list;
 

@@ -90,8 +90,9 @@ void TasksScreen::FrontBefore(const std::vector<HWND>& windows) const
     // Wine's X driver may restack windows that have just come to the front.
     ASSERT_TRUE(WaitFor([&] {
         for (auto window = wanted.rbegin(); window != wanted.rend(); ++window) {
-            if (!Raise(*window))
+            if (!Raise(*window)) {
                 return false;
+            }
         }
         return AreInOrder(wanted);
     }));

@@ -154,3 +154,17 @@ TEST_F(ActivationTurnsTest, AViewActivatedWhenAnotherGetsTheFocusIsTheOnlyOneToB
         ExpectOnlyVisible(app, views, 2);
     });
 }
+
+TEST_F(ActivationTurnsTest, AViewActivatedWhenAnotherIsLaidOutIsTheOnlyOneToBeSeen)
+{
+    WithViews([](TestApp& app, Views& views) {
+        MoveWindow(views[1]->Window(), 0, 0, 10, 10, FALSE);
+        views[1]->onSize = [&app] { app.ActivateView(3); };
+        const SPY(SHCreateMenuBar) bars;
+        app.ActivateView(2);
+        EXPECT_EQ(ViewEvents(),
+                  (Events{"view 3 OnActivate 2", "view 2 OnDeactivate", "view 1 OnDeactivate"}));
+        ExpectOnlyVisible(app, views, 2);
+        EXPECT_EQ(bars.calls.size(), 1U) << "the bar of the view that is shown";
+    });
+}

@@ -315,6 +315,20 @@ TEST_F(CVireoDialogLoopTest, ADialogThatDestroysItselfWhileItIsInitialisedReturn
     });
 }
 
+TEST_F(CVireoDialogLoopTest, ADialogThatGoesBeforeItsMenuBarIsMadeIsNeverListedAsOpen)
+{
+    InApp([](TestApp& app) {
+        TestDialog dialog("dialog");
+        dialog.onCreateMenuBar = [&](SHMENUBARINFO&) { DestroyWindow(dialog.window); };
+        // The shell makes the bar all the same.
+        const SPY(SHCreateMenuBar) create([](SHMENUBARINFO*) { return TRUE; });
+        EXPECT_EQ(dialog.Start(), 0);
+        EXPECT_EQ(app.dialogs->Count(), 0U);
+        EXPECT_TRUE(IsWindowEnabled(app.MainWindow()));
+        EXPECT_EQ(TakeEvents(), (Events{"dialog OnDestroy"}));
+    });
+}
+
 TEST_F(CVireoDialogLoopTest, AMainWindowThatGoesWhileADialogIsInitialisedEndsTheApplication)
 {
     TestApp app;

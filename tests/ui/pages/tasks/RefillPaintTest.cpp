@@ -1,4 +1,4 @@
-// The page of the running applications: painting while its records are rebuilt.
+// The page of the running applications: painting and refreshing while its records are rebuilt.
 #include "tests/support/Fatal.h"
 #include "tests/ui/ProgramTest.h"
 
@@ -55,4 +55,19 @@ TEST_F(RefillPaintTest, AFatalReportDuringARefillIsShown)
                      app.Tasks().FillList(-1);
                  }),
                  L"RefillPaintTest::Enumerate", L"Not enough memory");
+}
+
+TEST_F(RefillPaintTest, ARefreshDuringARefillIsTheRefillsOwn)
+{
+    AddTask(L"One");
+    InProgram([&](ProgramApp& app) {
+        const auto enumerate = enumWindows.instead;
+        enumWindows.instead = [&](WNDENUMPROC callback, LPARAM parameter) {
+            app.Tasks().FillList(-1);
+            return enumerate(callback, parameter);
+        };
+        app.Tasks().FillList(-1);
+        EXPECT_EQ(app.Tasks().TaskCount(), 1U);
+        enumWindows.instead = enumerate;
+    });
 }

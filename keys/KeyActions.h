@@ -24,4 +24,9 @@ enum KeyAction : int32_t
 
 inline constexpr uint32_t keyActionCount = 13;
 // What the user chooses them by, in the order of their numbers.
-extern const wchar_t* const keyActionTexts[keyActionCount];
+inline constexpr const wchar_t* keyActionTexts[keyActionCount] = {
+    L"Don't handle",   L"Handle, do nothing",    L"Start application",  L"Task manager",
+    L"Process viewer", L"System information",    L"App. Launcher",      L"Close current",
+    L"Close all",      L"Close all but current", L"Screen rotate left", L"Screen rotate right",
+    L"Lock keys",
+};

@@ -2,14 +2,6 @@
 #include "pages/PageTable.h"
 
 #include "framework/Assert.h"
-#include "resources/ids.h"
-
-const SPage pageRing[pageCount] = {
-    {PageTasks, CMD_SHOW_TASKS, L"Running applications", L"Running apps"},
-    {PageStart, CMD_SHOW_START, L"Start", L"Start"},
-    {PageSysInfo, CMD_SHOW_SYSINFO, L"System information", L"System info"},
-    {PageProcs, CMD_SHOW_PROCS, L"Processes", L"Processes"},
-};
 
 const SPage& PageOf(int32_t id)
 {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/ce.h"
+#include "resources/ids.h"
 
 // The pages' view ids.
 enum PageId : int32_t
@@ -23,7 +24,12 @@ struct SPage
 
 // In the order of the ring.
 inline constexpr uint32_t pageCount = 4;
-extern const SPage pageRing[pageCount];
+inline constexpr SPage pageRing[pageCount] = {
+    {PageTasks, CMD_SHOW_TASKS, L"Running applications", L"Running apps"},
+    {PageStart, CMD_SHOW_START, L"Start", L"Start"},
+    {PageSysInfo, CMD_SHOW_SYSINFO, L"System information", L"System info"},
+    {PageProcs, CMD_SHOW_PROCS, L"Processes", L"Processes"},
+};
 
 // Fatal "Not found" for any other id.
 const SPage& PageOf(int32_t id);

@@ -212,12 +212,15 @@ void OpenPrograms(const std::vector<std::wstring>& names)
         Require(process.Id() != 0, complaint);
         const DWORD id = process.Id();
         Require(WaitFor([=] { return ProcessOf(GetForegroundWindow()) == id; }), complaint);
-        PlaceAsOnDevice(GetForegroundWindow());
+        const HWND window = GetForegroundWindow();
+        PlaceAsOnDevice(window);
         // Wine's X driver lifts a window's picture above all others whenever its program moves the focus
         // inside it, even when another program has the front by then. So it must have come to rest before the
         // next one starts.
         WaitForInputIdle(process.Handle(), static_cast<DWORD>(patience.count()));
         Picture::OfSettledScreen();
+        // In front of the keyboard is not yet the first of the windows, and lists follow the windows' order.
+        Require(Raise(window), std::string(name.begin(), name.end()) + " does not come before the others");
         process.Release();
     }
 }

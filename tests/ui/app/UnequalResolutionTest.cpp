@@ -4,7 +4,11 @@
 #include "lists/RowMeasures.h"
 #include "tests/ui/ProgramTest.h"
 
-// The resolutions are read once in a process and stay with it, so each test runs in one of its own.
+#include <cstdio>
+#include <cstdlib>
+
+// The program reads the resolutions once in a process. So that no other suite gets these, each test runs in a
+// process of its own.
 class UnequalResolutionTest : public ProgramTest
 {
   protected:
@@ -19,13 +23,27 @@ class UnequalResolutionTest : public ProgramTest
         };
     }
 
-    static void Alone(const std::function<void()>& test)
+    // For the other process: ends it, and tells this one what has failed.
+    [[noreturn]] static void EndWithResult()
     {
-        const auto run = [&] {
-            test();
-            exit(HasFailure() ? 1 : 0);
-        };
-        EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
+        const testing::TestResult& result = *testing::UnitTest::GetInstance()->current_test_info()->result();
+        for (int i = 0; i < result.total_part_count(); i++) {
+            const testing::TestPartResult& part = result.GetTestPartResult(i);
+            fprintf(stderr, "line %d: %s\n", part.line_number(), part.summary());
+        }
+        fflush(stderr);
+        std::_Exit(HasFailure() ? 1 : 0);
+    }
+
+    template <typename Test>
+    static void InOwnProcess(Test test)
+    {
+        EXPECT_EXIT(
+            {
+                test();
+                EndWithResult();
+            },
+            testing::ExitedWithCode(0), "");
     }
 
     static int LineOf(HFONT font)
@@ -42,7 +60,7 @@ class UnequalResolutionTest : public ProgramTest
 
 TEST_F(UnequalResolutionTest, HeightsGoByTheVerticalOne)
 {
-    Alone([&] {
+    InOwnProcess([&] {
         InProgram([](ProgramApp& app) {
             HFONT bold = app.Tasks().Look().BoldFont();
             const int line = LineOf(bold);
@@ -55,7 +73,7 @@ TEST_F(UnequalResolutionTest, HeightsGoByTheVerticalOne)
 
 TEST_F(UnequalResolutionTest, TheStripsWidthsGoByTheHorizontalOne)
 {
-    Alone([&] {
+    InOwnProcess([&] {
         InProgram([](ProgramApp& app) {
             CListPage& page = app.Tasks();
             const LONG height = page.HeaderHeight();
@@ -91,7 +109,7 @@ TEST_F(UnequalResolutionTest, TheStripsWidthsGoByTheHorizontalOne)
 
 TEST_F(UnequalResolutionTest, TheRowsWidthsGoByTheHorizontalOne)
 {
-    Alone([&] {
+    InOwnProcess([&] {
         AddTask(L"Task");
         InProgram([](ProgramApp& app) {
             CViewTasks& page = app.Tasks();
@@ -133,5 +151,5 @@ TEST_F(UnequalResolutionTest, TheRowsWidthsGoByTheHorizontalOne)
 
 TEST_F(UnequalResolutionTest, DialogMarginsGoByTheHorizontalOne)
 {
-    Alone([&] { EXPECT_EQ(CVireoDialog::Margin(), 21); });
+    InOwnProcess([&] { EXPECT_EQ(CVireoDialog::Margin(), 21); });
 }

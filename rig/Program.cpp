@@ -1,6 +1,7 @@
 // Program: Quorvane under test, as a process of its own with its window on the screen.
 #include "rig/Program.h"
 
+#include "resources/ids.h"
 #include "rig/Desktop.h"
 #include "rig/WaitFor.h"
 
@@ -13,7 +14,6 @@ static constexpr wchar_t pageClassPrefix[] = L"QuorvaneV";
 static constexpr wchar_t noticeClassPrefix[] = L"QuorvaneIW";
 static constexpr wchar_t dialogClass[] = L"#32770";
 static constexpr int lastPage = 4;
-static constexpr int listId = 110;
 static constexpr std::chrono::milliseconds endingTime{3000};
 
 static std::vector<HWND> MainWindows()
@@ -114,7 +114,7 @@ HWND Program::Page(int number) const
 
 HWND Program::List(int number) const
 {
-    return FindDescendant(Page(number), L"SysListView32", listId);
+    return FindDescendant(Page(number), L"SysListView32", IDC_LIST);
 }
 
 int Program::VisiblePage() const

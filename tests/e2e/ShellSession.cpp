@@ -1,6 +1,7 @@
 // ShellSession: Quorvane running in front, where the end-to-end tests of the shell begin.
 #include "tests/e2e/ShellSession.h"
 
+#include "resources/ids.h"
 #include "rig/Actor.h"
 #include "rig/Controls.h"
 #include "rig/Picture.h"
@@ -104,7 +105,7 @@ HWND ShellSession::OpenReport() const
     program->Command(ApplicationInfoCommand);
     return WaitFor([&] {
         const HWND dialog = program->Dialog();
-        return dialog && GetDlgItem(dialog, 126) ? dialog : nullptr;
+        return dialog && GetDlgItem(dialog, IDC_INFORMATION_TEXT) ? dialog : nullptr;
     });
 }
 
@@ -113,7 +114,7 @@ HWND ShellSession::OpenWindowsList() const
     program->Command(WindowsListCommand);
     return WaitFor([&] {
         const HWND dialog = program->Dialog();
-        const HWND tree = dialog ? GetDlgItem(dialog, 1000) : nullptr;
+        const HWND tree = dialog ? GetDlgItem(dialog, IDC_WINDOWS_TREE) : nullptr;
         return tree && TreeItems(tree).size() > 1 ? dialog : nullptr;
     });
 }

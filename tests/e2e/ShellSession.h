@@ -1,6 +1,7 @@
 // ShellSession: Quorvane running in front, where the end-to-end tests of the shell begin.
 #pragma once
 
+#include "resources/ids.h"
 #include "rig/Desktop.h"
 #include "rig/Input.h"
 #include "rig/Program.h"
@@ -24,18 +25,18 @@ inline constexpr int pageRing[] = {TasksPage, LauncherPage, SysInfoPage, ProcsPa
 
 enum Command : int
 {
-    HideCommand = 112,
-    AboutCommand = 32771,
-    ExitCommand = 32773,
-    WindowsListCommand = 32792,
-    RefreshCommand = 32793,
-    ShowTasksCommand = 32796,
-    ShowSysInfoCommand = 32797,
-    ShowProcsCommand = 32798,
-    ApplicationInfoCommand = 32799,
-    ShowStartCommand = 32803,
-    SettingsCommand = 32813,
-    WindowInfoCommand = 0x8022 // of the Windows list
+    HideCommand = CMD_HIDE,
+    AboutCommand = CMD_ABOUT,
+    ExitCommand = CMD_EXIT,
+    WindowsListCommand = CMD_WINDOWS_LIST,
+    RefreshCommand = CMD_REFRESH,
+    ShowTasksCommand = CMD_SHOW_TASKS,
+    ShowSysInfoCommand = CMD_SHOW_SYSINFO,
+    ShowProcsCommand = CMD_SHOW_PROCS,
+    ApplicationInfoCommand = CMD_APPLICATION_INFO,
+    ShowStartCommand = CMD_SHOW_START,
+    SettingsCommand = CMD_SETTINGS,
+    WindowInfoCommand = CMD_WINDOW_INFO // of the Windows list
 };
 
 class ShellSession : public testing::Test

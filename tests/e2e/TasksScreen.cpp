@@ -1,6 +1,7 @@
 // TasksScreen: the program on its page of running applications, used as a user does.
 #include "tests/e2e/TasksScreen.h"
 
+#include "resources/ids.h"
 #include "rig/Controls.h"
 #include "rig/Desktop.h"
 #include "rig/Input.h"
@@ -126,7 +127,7 @@ std::wstring TasksScreen::Report() const
 {
     program->Command(commandInfo);
     const HWND dialog = program->WaitForDialog();
-    const HWND edit = FindDescendant(dialog, L"Edit", 126);
+    const HWND edit = FindDescendant(dialog, L"Edit", IDC_INFORMATION_TEXT);
     WaitFor([&] { return !TextOf(edit).empty(); });
     const std::wstring text = TextOf(edit);
     EXPECT_TRUE(CloseDialog(dialog));

@@ -2,6 +2,7 @@
 // derive from it.
 #pragma once
 
+#include "resources/ids.h"
 #include "rig/Actor.h"
 #include "rig/Program.h"
 
@@ -9,16 +10,16 @@
 
 #include <optional>
 
-inline constexpr int commandPreviousPage = 32774;
-inline constexpr int commandNextPage = 32775;
-inline constexpr int commandWindowsList = 32792;
-inline constexpr int commandRefresh = 32793;
-inline constexpr int commandShowTasks = 32796;
-inline constexpr int commandInfo = 32799;
-inline constexpr int commandClose = 32800;
-inline constexpr int commandSwitch = 32801;
-inline constexpr int commandWindowInfo = 0x8022;
-inline constexpr int commandCloseAll = 32816;
+inline constexpr int commandPreviousPage = CMD_PREVIOUS_PAGE;
+inline constexpr int commandNextPage = CMD_NEXT_PAGE;
+inline constexpr int commandWindowsList = CMD_WINDOWS_LIST;
+inline constexpr int commandRefresh = CMD_REFRESH;
+inline constexpr int commandShowTasks = CMD_SHOW_TASKS;
+inline constexpr int commandInfo = CMD_APPLICATION_INFO;
+inline constexpr int commandClose = CMD_CLOSE_APPLICATION;
+inline constexpr int commandSwitch = CMD_SWITCH_TO_APPLICATION;
+inline constexpr int commandWindowInfo = CMD_WINDOW_INFO;
+inline constexpr int commandCloseAll = CMD_CLOSE_ALL;
 
 class TasksScreen : public testing::Test
 {

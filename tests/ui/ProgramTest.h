@@ -7,6 +7,7 @@
 #include "framework/CVireoInfowin.h"
 #include "framework/CVireoView.h"
 #include "pages/tasks/CViewTasks.h"
+#include "resources/ids.h"
 #include "tests/ui/UiTest.h"
 
 #include <deque>
@@ -29,7 +30,7 @@ class ProgramApp : public CApp
     void Later(std::function<void()> step);
 
     CViewTasks& Tasks() { return *static_cast<CViewTasks*>(views->At(0)); }
-    HWND TaskList() { return GetDlgItem(Tasks().Window(), 110); }
+    HWND TaskList() { return GetDlgItem(Tasks().Window(), IDC_LIST); }
 
     bool CheckPrevInstance(HWND existingWindow, const wchar_t* line) override;
     bool OnCreate() override;

@@ -1,4 +1,5 @@
 // The menu behind the right soft key: its lines, its submenus by keys and by taps.
+#include "resources/ids.h"
 #include "rig/MenuTwin.h"
 #include "tests/e2e/ShellSession.h"
 
@@ -114,7 +115,7 @@ TEST_F(ShellMenuTest, EveryPagesMenuEndsTheSame)
 {
     const ProgramFile file;
     const std::vector<ResourceLine> tail = {{0, L""}, {UINT(-1), L"View"}, {0, L""}, {UINT(-1), L"More"},
-                                            {0, L""}, {32773, L"Exit"}};
+                                            {0, L""}, {CMD_EXIT, L"Exit"}};
     for (int id : {134, 102, 136, 132}) {
         const HMENU whole = file.Menu(id);
         ASSERT_TRUE(whole) << id;
@@ -123,10 +124,13 @@ TEST_F(ShellMenuTest, EveryPagesMenuEndsTheSame)
         ASSERT_GT(lines.size(), tail.size()) << id;
         EXPECT_TRUE(std::equal(tail.begin(), tail.end(), lines.end() - static_cast<int>(tail.size()))) << id;
         const int count = static_cast<int>(lines.size());
-        const std::vector<ResourceLine> view = {
-            {32796, L"Runnig apps"}, {32803, L"Start"}, {32797, L"System info"}, {32798, L"Processes"}};
+        const std::vector<ResourceLine> view = {{CMD_SHOW_TASKS, L"Runnig apps"},
+                                                {CMD_SHOW_START, L"Start"},
+                                                {CMD_SHOW_SYSINFO, L"System info"},
+                                                {CMD_SHOW_PROCS, L"Processes"}};
         EXPECT_EQ(view, LinesOf(GetSubMenu(menu, count - 5))) << id;
-        const std::vector<ResourceLine> more = {{32814, L"Hardware keys"}, {0, L""}, {32771, L"About"}};
+        const std::vector<ResourceLine> more = {
+            {CMD_HARDWARE_KEYS, L"Hardware keys"}, {0, L""}, {CMD_ABOUT, L"About"}};
         EXPECT_EQ(more, LinesOf(GetSubMenu(menu, count - 3))) << id;
         DestroyMenu(whole);
     }

@@ -1,4 +1,5 @@
 // The report on a task's window, as the information dialog shows it.
+#include "resources/ids.h"
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/TasksScreen.h"
 
@@ -113,7 +114,7 @@ TEST_F(WindowReportE2eTest, OwnersAreNamedAndTheTopmostOnlyWhenItIsAnother)
 
     program->Command(commandWindowsList);
     const HWND dialog = program->WaitForDialog();
-    const HWND tree = FindDescendant(dialog, L"SysTreeView32", 1000);
+    const HWND tree = FindDescendant(dialog, L"SysTreeView32", IDC_WINDOWS_TREE);
     const auto reportOn = [&](HWND window) {
         for (const TreeItem& item : TreeItems(tree)) {
             if (item.data == reinterpret_cast<LPARAM>(window)) {
@@ -123,9 +124,9 @@ TEST_F(WindowReportE2eTest, OwnersAreNamedAndTheTopmostOnlyWhenItIsAnother)
         PostMessageW(dialog, WM_COMMAND, commandWindowInfo, 0);
         const HWND info = WaitFor([&] {
             const HWND shown = program->Dialog();
-            return shown != dialog && FindDescendant(shown, L"Edit", 126) ? shown : nullptr;
+            return shown != dialog && FindDescendant(shown, L"Edit", IDC_INFORMATION_TEXT) ? shown : nullptr;
         });
-        const std::wstring report = TextOf(FindDescendant(info, L"Edit", 126));
+        const std::wstring report = TextOf(FindDescendant(info, L"Edit", IDC_INFORMATION_TEXT));
         PostMessageW(info, WM_COMMAND, IDOK, 0);
         EXPECT_TRUE(WaitFor([=] { return !IsWindow(info); }));
         return report;

@@ -1,4 +1,5 @@
 // The tree of the windows of a task's process.
+#include "resources/ids.h"
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/TasksScreen.h"
 
@@ -53,7 +54,7 @@ class WindowsListE2eTest : public TasksScreen
         Select(1);
         program->Command(commandWindowsList);
         dialog = program->WaitForDialog();
-        tree = FindDescendant(dialog, L"SysTreeView32", 1000);
+        tree = FindDescendant(dialog, L"SysTreeView32", IDC_WINDOWS_TREE);
         ASSERT_TRUE(WaitFor([&] { return FocusOf(dialog) == tree; }));
     }
 
@@ -98,7 +99,7 @@ class WindowsListE2eTest : public TasksScreen
     {
         return WaitFor([&] {
             const HWND shown = program->Dialog();
-            return shown != dialog && FindDescendant(shown, L"Edit", 126) ? shown : nullptr;
+            return shown != dialog && FindDescendant(shown, L"Edit", IDC_INFORMATION_TEXT) ? shown : nullptr;
         });
     }
 };
@@ -214,7 +215,7 @@ TEST_F(WindowsListE2eTest, TheProgramCanListItsOwnWindows)
     Select(0);
     program->Command(commandWindowsList);
     dialog = program->WaitForDialog();
-    tree = FindDescendant(dialog, L"SysTreeView32", 1000);
+    tree = FindDescendant(dialog, L"SysTreeView32", IDC_WINDOWS_TREE);
     ASSERT_TRUE(WaitFor([&] { return FocusOf(dialog) == tree; }));
     const auto lines = LinesOf(TreeItems(tree));
     ASSERT_FALSE(lines.empty());
@@ -243,7 +244,7 @@ TEST_F(WindowsListE2eTest, TheMenuShowsTheReportOnTheSelectedItemAndTheFocusCome
     PressKey(VK_DOWN);
     PressKey(VK_RETURN);
     const HWND info = WaitForInformation();
-    const std::wstring report = TextOf(FindDescendant(info, L"Edit", 126));
+    const std::wstring report = TextOf(FindDescendant(info, L"Edit", IDC_INFORMATION_TEXT));
     EXPECT_EQ(child, ReportedWindow(report));
     EXPECT_NE(std::wstring::npos, report.find(L"\r\n\r\nStyles: \r\n - WS_CHILD\r\n - WS_VISIBLE"));
     ASSERT_TRUE(WaitFor([=] { return GetForegroundWindow() == info; }));

@@ -7,8 +7,8 @@
 class CAppDialogTest : public ProgramTest
 {
   protected:
-    static constexpr UINT report = 32799;
-    static constexpr UINT windowsList = 32792;
+    static constexpr UINT report = CMD_APPLICATION_INFO;
+    static constexpr UINT windowsList = CMD_WINDOWS_LIST;
 
     static void Run(ProgramApp& app, UINT command) { SendMessageW(app.MainWindow(), WM_COMMAND, command, 0); }
 
@@ -33,7 +33,7 @@ class CAppDialogTest : public ProgramTest
                     ASSERT_EQ(app.dialogs->Count(), 2u);
                     step(app);
                 });
-                SendMessageW(app.dialogs->At(0)->Window(), WM_COMMAND, 0x8022, 0);
+                SendMessageW(app.dialogs->At(0)->Window(), WM_COMMAND, CMD_WINDOW_INFO, 0);
             });
             Run(app, command != 0 ? command : windowsList);
             returned = true;
@@ -52,7 +52,7 @@ class CAppDialogTest : public ProgramTest
     }
 };
 
-static const UINT dialogs[] = {32799, 32792, 0};
+static const UINT dialogs[] = {CMD_APPLICATION_INFO, CMD_WINDOWS_LIST, 0};
 
 TEST_F(CAppDialogTest, ASentCloseEndsDialogsAndProgram)
 {
@@ -67,7 +67,7 @@ TEST_F(CAppDialogTest, ExitEndsDialogsAndProgram)
 {
     for (const UINT command : dialogs) {
         Under(
-            command, [](ProgramApp& app) { app.OnCommand(32773, 0, 0); },
+            command, [](ProgramApp& app) { app.OnCommand(CMD_EXIT, 0, 0); },
             [](ProgramApp& app) { EXPECT_FALSE(app.HasMainWindow()); });
     }
 }
@@ -152,7 +152,7 @@ TEST_F(CAppDialogTest, ATaskThatEndsUnderADialogDoesNoHarm)
             [&](ProgramApp& app) {
                 EndTask(late);
                 Unlist(late);
-                SendMessageW(app.dialogs->At(0)->Window(), WM_COMMAND, 0x8022, 0);
+                SendMessageW(app.dialogs->At(0)->Window(), WM_COMMAND, CMD_WINDOW_INFO, 0);
                 EXPECT_EQ(Notice(app), L"Window is no longer exists.");
                 app.EndAllDialogs();
             },

@@ -39,7 +39,11 @@ TEST_F(CAppTest, TheFourPagesComeInOrderWithTheirSoftKeysAndKeys)
 TEST_F(CAppTest, ACommandForAPageShowsItAndBringsTheProgramForward)
 {
     InProgram([&](ProgramApp& app) {
-        const std::pair<UINT, int> pages[] = {{32797, 2}, {32803, 3}, {32798, 4}, {32796, 1}, {32796, 1}};
+        const std::pair<UINT, int> pages[] = {{CMD_SHOW_SYSINFO, 2},
+                                              {CMD_SHOW_START, 3},
+                                              {CMD_SHOW_PROCS, 4},
+                                              {CMD_SHOW_TASKS, 1},
+                                              {CMD_SHOW_TASKS, 1}};
         for (const auto& [command, page] : pages) {
             SPY(SetForegroundWindow) foreground;
             Run(app, command);
@@ -63,7 +67,7 @@ TEST_F(CAppTest, TheMainWindowsFocusIsItsPages)
             SetFocus(nullptr);
             EXPECT_EQ(GetFocus(), nullptr);
             SetFocus(app.MainWindow());
-            EXPECT_EQ(GetFocus(), GetDlgItem(app.ActiveView()->Window(), 110)) << page;
+            EXPECT_EQ(GetFocus(), GetDlgItem(app.ActiveView()->Window(), IDC_LIST)) << page;
         }
     });
 }
@@ -101,7 +105,7 @@ TEST_F(CAppTest, ExitEndsTheProgram)
     ProgramApp app;
     app.endsAfterBody = false;
     app.body = [&] {
-        Run(app, 32773);
+        Run(app, CMD_EXIT);
         EXPECT_FALSE(app.HasMainWindow());
     };
     EXPECT_EQ(Start(app), 0);
@@ -111,7 +115,7 @@ TEST_F(CAppTest, SettingsIsAPlaceholder)
 {
     InProgram([&](ProgramApp& app) {
         SPY(SetTimer) timer;
-        Run(app, 32813);
+        Run(app, CMD_SETTINGS);
         EXPECT_EQ(Notice(app), L"Settings cmd");
         ASSERT_EQ(timer.calls.size(), 1u);
         EXPECT_EQ(std::get<2>(timer.calls[0]), 3000u);
@@ -132,7 +136,7 @@ TEST_F(CAppTest, AboutTellsWhatItIs)
             text = shown;
             return IDOK;
         };
-        Run(app, 32771);
+        Run(app, CMD_ABOUT);
         EXPECT_EQ(text.find(L"Quorvane "), 0u);
     });
 }
@@ -145,7 +149,7 @@ TEST_F(CAppTest, CloseAllAsksEveryTaskAndThenRefreshesThePage)
         listed.insert(listed.begin(), app.MainWindow());
         sleep.calls.clear();
         sleep.instead = [&](DWORD) { listed = {app.MainWindow()}; };
-        Run(app, 32816);
+        Run(app, CMD_CLOSE_ALL);
         EXPECT_FALSE(IsWindow(first));
         EXPECT_FALSE(IsWindow(second));
         EXPECT_TRUE(app.HasMainWindow());
@@ -162,7 +166,7 @@ TEST_F(CAppTest, CloseAllFromTheLauncherNeitherWaitsNorRefreshes)
     InProgram([&](ProgramApp& app) {
         app.ActivateView(3);
         sleep.calls.clear();
-        Run(app, 32816);
+        Run(app, CMD_CLOSE_ALL);
         EXPECT_FALSE(IsWindow(task));
         EXPECT_TRUE(sleep.calls.empty());
         EXPECT_EQ(app.Tasks().TaskCount(), 1u) << "the record of the first showing";

@@ -1,5 +1,6 @@
 // The program keeps no settings: it opens no file but its pictures and writes nothing into the registry.
 #include "framework/CVireoRegistry.h"
+#include "resources/ids.h"
 #include "tests/support/TestKey.h"
 #include "tests/ui/ProgramTest.h"
 
@@ -41,10 +42,11 @@ TEST_F(NoSettingsTest, AWholeLifeWritesNothing)
 {
     AddTask(L"Task");
     InProgram([](ProgramApp& app) {
-        for (const UINT command : {32803, 32797, 32798, 32796, 32793, 32813, 112}) {
+        for (const UINT command : {CMD_SHOW_START, CMD_SHOW_SYSINFO, CMD_SHOW_PROCS, CMD_SHOW_TASKS,
+                                   CMD_REFRESH, CMD_SETTINGS, CMD_HIDE}) {
             SendMessageW(app.MainWindow(), WM_COMMAND, command, 0);
         }
-        for (const UINT command : {32799, 32792}) {
+        for (const UINT command : {CMD_APPLICATION_INFO, CMD_WINDOWS_LIST}) {
             app.Later([&] { app.EndAllDialogs(); });
             SendMessageW(app.MainWindow(), WM_COMMAND, command, 0);
         }

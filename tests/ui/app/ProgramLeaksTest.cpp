@@ -1,4 +1,5 @@
 // What a long life of the program leaves behind: nothing.
+#include "resources/ids.h"
 #include "tests/support/ObjectCounts.h"
 #include "tests/ui/ProgramTest.h"
 
@@ -79,7 +80,7 @@ TEST_F(ProgramLeaksTest, AThousandRefreshesLeaveNothing)
         AddTask((L"Task " + std::to_wstring(i)).c_str());
     }
     InProgram([&](ProgramApp& app) {
-        ExpectNothingLeft(1000, [&] { SendMessageW(app.MainWindow(), WM_COMMAND, 32793, 0); });
+        ExpectNothingLeft(1000, [&] { SendMessageW(app.MainWindow(), WM_COMMAND, CMD_REFRESH, 0); });
     });
 }
 
@@ -87,7 +88,7 @@ TEST_F(ProgramLeaksTest, TwoHundredChangesOfThePageLeaveNothing)
 {
     AddTask(L"Task");
     InProgram([&](ProgramApp& app) {
-        const UINT commands[] = {32803, 32797, 32798, 32796};
+        const UINT commands[] = {CMD_SHOW_START, CMD_SHOW_SYSINFO, CMD_SHOW_PROCS, CMD_SHOW_TASKS};
         int next = 0;
         ExpectNothingLeft(200, [&] {
             SendMessageW(app.MainWindow(), WM_COMMAND, commands[next++ % 4], 0);
@@ -104,7 +105,7 @@ TEST_F(ProgramLeaksTest, DialogsLeaveNothing)
     {
         UINT command;
         size_t keptBySystem;
-    } dialogs[] = {{32799, 1}, {32792, 0}};
+    } dialogs[] = {{CMD_APPLICATION_INFO, 1}, {CMD_WINDOWS_LIST, 0}};
     InProgram([&](ProgramApp& app) {
         for (const auto& each : dialogs) {
             SCOPED_TRACE(each.command);

@@ -1,5 +1,6 @@
 // The information dialog.
 #include "dialogs/CDialogInfo.h"
+#include "resources/ids.h"
 #include "tests/support/TestHeap.h"
 #include "tests/ui/ProgramTest.h"
 
@@ -20,7 +21,7 @@ class CDialogInfoTest : public ProgramTest
                 app.Later([&app, &step, &done] {
                     ASSERT_EQ(app.dialogs->Count(), 1u);
                     HWND dialog = app.dialogs->At(0)->Window();
-                    step(dialog, GetDlgItem(dialog, 126));
+                    step(dialog, GetDlgItem(dialog, IDC_INFORMATION_TEXT));
                     done++;
                 });
             }
@@ -87,7 +88,7 @@ TEST_F(CDialogInfoTest, OtherCommandsLeaveItOpen)
 {
     Show(Lines(100),
          {[](HWND dialog, HWND edit) {
-              for (const WPARAM command : {0, 3, 5, 110, 112, 113, 117, 118, 119, 122, 32773, 0xFFFF}) {
+              for (const WPARAM command : {0, 3, 5, 110, 112, 113, 117, 118, 119, 122, CMD_EXIT, 0xFFFF}) {
                   SendMessageW(dialog, WM_COMMAND, command, 0);
               }
               EXPECT_EQ(FirstLine(edit), 0);

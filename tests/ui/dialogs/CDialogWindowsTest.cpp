@@ -1,5 +1,6 @@
 // The tree of a process's windows.
 #include "dialogs/CDialogWindows.h"
+#include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
 #include <algorithm>
@@ -26,7 +27,7 @@ class CDialogWindowsTest : public ProgramTest
             app.Later([&] {
                 ASSERT_EQ(app.dialogs->Count(), 1u);
                 HWND dialog = app.dialogs->At(0)->Window();
-                Opened opened = {app, dialog, GetDlgItem(dialog, 1000)};
+                Opened opened = {app, dialog, GetDlgItem(dialog, IDC_WINDOWS_TREE)};
                 step(opened);
             });
             CDialogWindows dialog(process, caption, preselected);
@@ -180,7 +181,7 @@ TEST_F(CDialogWindowsTest, OkAndActionAcceptCancelCancelsAndOthersDoNothing)
         EXPECT_EQ(result, answer.second);
     }
     Open(nullptr, [](Opened& opened) {
-        for (const WPARAM command : {0, 3, 113, 114, 116, 121, 32773, 32793}) {
+        for (const WPARAM command : {0, 3, 113, 114, 116, 121, CMD_EXIT, CMD_REFRESH}) {
             SendMessageW(opened.dialog, WM_COMMAND, command, 0);
         }
         opened.app.Later([opened] {
@@ -258,7 +259,7 @@ TEST_F(CDialogWindowsTest, WindowInfoShowsTheReportOnTheSelectedWindow)
             ASSERT_EQ(opened.app.dialogs->Count(), 2u);
             HWND information = opened.app.dialogs->At(1)->Window();
             EXPECT_EQ(Text(information), L"Information");
-            const std::wstring report = Text(GetDlgItem(information, 126));
+            const std::wstring report = Text(GetDlgItem(information, IDC_INFORMATION_TEXT));
             EXPECT_NE(
                 report.find(
                     L"\r\n\r\nWindow name: Second\r\nClass name: QuorvaneTestTask\r\nWindow handle: 0x"),
@@ -267,7 +268,7 @@ TEST_F(CDialogWindowsTest, WindowInfoShowsTheReportOnTheSelectedWindow)
             SendMessageW(information, WM_COMMAND, 1, 0);
         });
         SetFocus(opened.dialog);
-        SendMessageW(opened.dialog, WM_COMMAND, 0x8022, 0);
+        SendMessageW(opened.dialog, WM_COMMAND, CMD_WINDOW_INFO, 0);
         EXPECT_EQ(opened.app.dialogs->Count(), 1u);
         EXPECT_EQ(GetFocus(), opened.tree);
         End(opened);
@@ -285,7 +286,7 @@ TEST_F(CDialogWindowsTest, TheRootAndTheLineForNoWindowHaveNoInfo)
                 continue;
             }
             SendMessageW(opened.tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
-            SendMessageW(opened.dialog, WM_COMMAND, 0x8022, 0);
+            SendMessageW(opened.dialog, WM_COMMAND, CMD_WINDOW_INFO, 0);
             EXPECT_EQ(opened.app.dialogs->Count(), 1u);
             EXPECT_EQ(Notice(opened.app), L"");
         }
@@ -299,7 +300,7 @@ TEST_F(CDialogWindowsTest, NoSelectionHasNoInfo)
 {
     Open(nullptr, [](Opened& opened) {
         SendMessageW(opened.tree, TVM_SELECTITEM, TVGN_CARET, 0);
-        SendMessageW(opened.dialog, WM_COMMAND, 0x8022, 0);
+        SendMessageW(opened.dialog, WM_COMMAND, CMD_WINDOW_INFO, 0);
         EXPECT_EQ(opened.app.dialogs->Count(), 1u);
         End(opened);
     });
@@ -310,7 +311,7 @@ TEST_F(CDialogWindowsTest, AWindowThatHasGoneMeanwhileGivesANotice)
     HWND task = AddTask(L"First");
     Open(task, [&](Opened& opened) {
         EndTask(task);
-        SendMessageW(opened.dialog, WM_COMMAND, 0x8022, 0);
+        SendMessageW(opened.dialog, WM_COMMAND, CMD_WINDOW_INFO, 0);
         EXPECT_EQ(opened.app.dialogs->Count(), 1u);
         EXPECT_EQ(Notice(opened.app), L"Window is no longer exists.");
         End(opened);

@@ -1,6 +1,7 @@
 // The soft keys that each dialog asks the shell for.
 // profiles: pocketpc smartphone
 #include "dialogs/CDialogInfo.h"
+#include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
 #include <deque>
@@ -66,13 +67,17 @@ TEST_F(DialogBarsTest, TheInformationDialogHasItsOwn)
 TEST_F(DialogBarsTest, TheReportOnATaskIsAnInformationDialog)
 {
     AddTask(L"Task");
-    const auto report = [](ProgramApp& app) { SendMessageW(app.MainWindow(), WM_COMMAND, 32799, 0); };
+    const auto report = [](ProgramApp& app) {
+        SendMessageW(app.MainWindow(), WM_COMMAND, CMD_APPLICATION_INFO, 0);
+    };
     EXPECT_EQ(BarsOf(report, {1}), (std::vector<UINT>{170}));
 }
 
 TEST_F(DialogBarsTest, TheWindowsListHasItsOwnAndTheReportAboveItToo)
 {
     AddTask(L"Task");
-    const auto windows = [](ProgramApp& app) { SendMessageW(app.MainWindow(), WM_COMMAND, 32792, 0); };
+    const auto windows = [](ProgramApp& app) {
+        SendMessageW(app.MainWindow(), WM_COMMAND, CMD_WINDOWS_LIST, 0);
+    };
     EXPECT_EQ(BarsOf(windows, {32802, 1, 1}), (std::vector<UINT>{173, 170}));
 }

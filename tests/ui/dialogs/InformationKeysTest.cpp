@@ -1,5 +1,6 @@
 // The keys of the information dialog, as a user presses them.
 #include "dialogs/CDialogInfo.h"
+#include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
 class InformationKeysTest : public ProgramTest
@@ -36,7 +37,7 @@ class InformationKeysTest : public ProgramTest
             app.Later([&] {
                 ASSERT_EQ(app.dialogs->Count(), 1u);
                 dialog = app.dialogs->At(0)->Window();
-                shown.edit = GetDlgItem(dialog, 126);
+                shown.edit = GetDlgItem(dialog, IDC_INFORMATION_TEXT);
                 SetFocus(shown.edit);
                 for (const WPARAM key : keys) {
                     PostMessageW(shown.edit, WM_KEYDOWN, key, 1);
@@ -83,7 +84,7 @@ TEST_F(InformationKeysTest, EnterIsACommandOfItsOwn)
         });
         app.Later([&] {
             HWND dialog = app.dialogs->At(0)->Window();
-            PostMessageW(GetDlgItem(dialog, 126), WM_KEYDOWN, VK_RETURN, 1);
+            PostMessageW(GetDlgItem(dialog, IDC_INFORMATION_TEXT), WM_KEYDOWN, VK_RETURN, 1);
         });
         const CStr report(L"text");
         EXPECT_EQ(CDialogInfo::Show(report), IDOK);

@@ -140,7 +140,7 @@ TEST_F(CListPageTest, ThereIsOneColumnAsWideAsTheListAfterEachRefill)
 TEST_F(CListPageTest, TapAndHoldIsConsumed)
 {
     WithPage([](TestApp&, Page& page) {
-        EXPECT_EQ(NotifyPage(page, 110, 1000), 1);
+        EXPECT_EQ(NotifyPage(page, IDC_LIST, 1000), 1);
         EXPECT_TRUE(TakeEvents().empty());
     });
 }
@@ -148,10 +148,10 @@ TEST_F(CListPageTest, TapAndHoldIsConsumed)
 TEST_F(CListPageTest, ActivatingARowIsACommandAndOtherNotificationsAreNot)
 {
     WithPage([](TestApp&, Page& page) {
-        EXPECT_EQ(NotifyPage(page, 110, static_cast<UINT>(LVN_ITEMACTIVATE)), 0);
+        EXPECT_EQ(NotifyPage(page, IDC_LIST, static_cast<UINT>(LVN_ITEMACTIVATE)), 0);
         EXPECT_EQ(TakeEvents().front(), "page OnCommand 114,0,0");
-        EXPECT_EQ(NotifyPage(page, 110, static_cast<UINT>(LVN_ITEMCHANGED)), 0);
-        EXPECT_EQ(NotifyPage(page, 110, static_cast<UINT>(NM_CLICK)), 0);
+        EXPECT_EQ(NotifyPage(page, IDC_LIST, static_cast<UINT>(LVN_ITEMCHANGED)), 0);
+        EXPECT_EQ(NotifyPage(page, IDC_LIST, static_cast<UINT>(NM_CLICK)), 0);
         EXPECT_TRUE(TakeEvents().empty());
     });
 }
@@ -162,7 +162,7 @@ TEST_F(CListPageTest, RowRequestsReachTheList)
         page.list.rowHeight = 31;
         MEASUREITEMSTRUCT measure = {};
         measure.CtlType = ODT_LISTVIEW;
-        SendMessageW(page.Window(), WM_MEASUREITEM, 110, reinterpret_cast<LPARAM>(&measure));
+        SendMessageW(page.Window(), WM_MEASUREITEM, IDC_LIST, reinterpret_cast<LPARAM>(&measure));
         EXPECT_EQ(measure.itemHeight, 31U);
         std::vector<uint32_t> drawn;
         page.list.drawRow = [&](HDC, const RECT&, uint32_t row, bool) { drawn.push_back(row); };

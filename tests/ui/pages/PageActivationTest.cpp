@@ -1,4 +1,5 @@
 // What showing a page does to its list, step by step.
+#include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ class PageActivationTest : public ProgramTest
     static Events StepsOfShowing(ProgramApp& app, uint32_t page)
     {
         CVireoView& view = *app.views->At(page - 1);
-        HWND list = GetDlgItem(view.Window(), 110);
+        HWND list = GetDlgItem(view.Window(), IDC_LIST);
         app.ActivateView(page == 2 ? 3 : 2);
         const SPY(SendMessageW) send([&](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
             if (window == list) {

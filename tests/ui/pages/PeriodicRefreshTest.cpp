@@ -1,4 +1,5 @@
 // The refresh by time, by activation and after closing all reaches every page but the launcher.
+#include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ class PeriodicRefreshTest : public ProgramTest
     static int RefillsDuring(ProgramApp& app, int page, const std::function<void()>& step)
     {
         app.ActivateView(page);
-        HWND list = GetDlgItem(app.ActiveView()->Window(), 110);
+        HWND list = GetDlgItem(app.ActiveView()->Window(), IDC_LIST);
         UpdateWindow(list);
         const SPY(SendMessageW) send;
         const SPY(UpdateWindow) update;
@@ -55,7 +56,8 @@ TEST_F(PeriodicRefreshTest, ClosingAllWaitsASecondAndRefreshesEveryPageButTheLau
         for (const auto& [page, refills] : refillsOfPages) {
             sleep.calls.clear();
             enumWindows.calls.clear();
-            EXPECT_EQ(RefillsDuring(app, page, [&] { SendMessageW(app.MainWindow(), WM_COMMAND, 32816, 0); }),
+            EXPECT_EQ(RefillsDuring(app, page,
+                                    [&] { SendMessageW(app.MainWindow(), WM_COMMAND, CMD_CLOSE_ALL, 0); }),
                       refills)
                 << page;
             ASSERT_FALSE(enumWindows.calls.empty()) << page;

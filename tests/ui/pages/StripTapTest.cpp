@@ -1,5 +1,6 @@
 // A tap on the title strip: which part does what, and what becomes of the message and of the menu.
 // profiles: pocketpc pocketpc-vga
+#include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
 class StripTapTest : public ProgramTest
@@ -103,7 +104,8 @@ TEST_F(StripTapTest, TheChoiceIsACommandOfThePage)
 {
     InProgram([&](ProgramApp& app) {
         const LONG middle = ClientSize(app.Tasks().Window()).cx / 2;
-        const std::pair<BOOL, int> choices[] = {{32803, 3}, {32797, 2}, {32798, 4}, {0, 1}};
+        const std::pair<BOOL, int> choices[] = {
+            {CMD_SHOW_START, 3}, {CMD_SHOW_SYSINFO, 2}, {CMD_SHOW_PROCS, 4}, {0, 1}};
         for (const auto& [command, page] : choices) {
             app.ActivateView(1);
             choice = command;
@@ -111,7 +113,7 @@ TEST_F(StripTapTest, TheChoiceIsACommandOfThePage)
             EXPECT_EQ(app.ActiveView()->Id(), page) << command;
         }
         app.ActivateView(1);
-        choice = 32793;
+        choice = CMD_REFRESH;
         const size_t shown = enumWindows.calls.size();
         Tap(app.Tasks(), middle, 3);
         EXPECT_EQ(enumWindows.calls.size(), shown + 1) << "not refreshed";

@@ -1,4 +1,5 @@
 // The menu of the page of running applications: its items, and that each runs its command.
+#include "resources/ids.h"
 #include "tests/e2e/TasksScreen.h"
 
 #include "rig/Controls.h"
@@ -57,27 +58,28 @@ TEST_F(TaskMenuTest, TheItemsHaveTheirTextsAndOrder)
     ASSERT_TRUE(file);
     const HMENU menu = LoadMenuW(file, MAKEINTRESOURCEW(134));
     const HMENU items = GetSubMenu(menu, 0);
-    EXPECT_EQ((std::vector<Item>{{32801, L"Switch to appliction"},
-                                 {32800, L"Close application"},
+    EXPECT_EQ((std::vector<Item>{{CMD_SWITCH_TO_APPLICATION, L"Switch to appliction"},
+                                 {CMD_CLOSE_APPLICATION, L"Close application"},
                                  {0, L""},
-                                 {32816, L"Close all"},
+                                 {CMD_CLOSE_ALL, L"Close all"},
                                  {0, L""},
-                                 {32799, L"Application info"},
-                                 {32792, L"Windows list"},
+                                 {CMD_APPLICATION_INFO, L"Application info"},
+                                 {CMD_WINDOWS_LIST, L"Windows list"},
                                  {0, L""},
-                                 {32793, L"Refresh"},
+                                 {CMD_REFRESH, L"Refresh"},
                                  {0, L""},
                                  {-1, L"View"},
                                  {0, L""},
                                  {-1, L"More"},
                                  {0, L""},
-                                 {32773, L"Exit"}}),
+                                 {CMD_EXIT, L"Exit"}}),
               ItemsOf(items));
-    EXPECT_EQ(
-        (std::vector<Item>{
-            {32796, L"Runnig apps"}, {32803, L"Start"}, {32797, L"System info"}, {32798, L"Processes"}}),
-        ItemsOf(GetSubMenu(items, 10)));
-    EXPECT_EQ((std::vector<Item>{{32814, L"Hardware keys"}, {0, L""}, {32771, L"About"}}),
+    EXPECT_EQ((std::vector<Item>{{CMD_SHOW_TASKS, L"Runnig apps"},
+                                 {CMD_SHOW_START, L"Start"},
+                                 {CMD_SHOW_SYSINFO, L"System info"},
+                                 {CMD_SHOW_PROCS, L"Processes"}}),
+              ItemsOf(GetSubMenu(items, 10)));
+    EXPECT_EQ((std::vector<Item>{{CMD_HARDWARE_KEYS, L"Hardware keys"}, {0, L""}, {CMD_ABOUT, L"About"}}),
               ItemsOf(GetSubMenu(items, 12)));
     DestroyMenu(menu);
     FreeLibrary(file);
@@ -90,7 +92,7 @@ TEST_F(TaskMenuTest, ApplicationInfoShowsTheReportOnTheSelectedTask)
     Select(1);
     Choose(4);
     const HWND dialog = program->WaitForDialog();
-    const HWND edit = FindDescendant(dialog, L"Edit", 126);
+    const HWND edit = FindDescendant(dialog, L"Edit", IDC_INFORMATION_TEXT);
     EXPECT_TRUE(WaitFor([=] { return ReportedWindow(TextOf(edit)) == a; }));
     EXPECT_EQ(L"Information", TextOf(dialog));
     EXPECT_TRUE(CloseDialog(dialog));
@@ -105,7 +107,7 @@ TEST_F(TaskMenuTest, WindowsListShowsTheTree)
     const HWND dialog = program->WaitForDialog();
     ASSERT_TRUE(dialog);
     EXPECT_EQ(L"Windows list", TextOf(dialog));
-    EXPECT_TRUE(FindDescendant(dialog, L"SysTreeView32", 1000));
+    EXPECT_TRUE(FindDescendant(dialog, L"SysTreeView32", IDC_WINDOWS_TREE));
     EXPECT_TRUE(CloseDialog(dialog));
 }
 

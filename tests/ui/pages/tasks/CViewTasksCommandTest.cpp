@@ -41,7 +41,7 @@ class CViewTasksCommandTest : public ProgramTest
         app.Tasks().FillList(row);
         sleep.instead = [this, task](DWORD) { Unlist(task); };
         sleep.calls.clear();
-        Run(app, 32800);
+        Run(app, CMD_CLOSE_APPLICATION);
         EXPECT_FALSE(IsWindow(task));
         ASSERT_EQ(sleep.calls.size(), 1u);
         EXPECT_EQ(std::get<0>(sleep.calls[0]), 500u);
@@ -52,7 +52,8 @@ TEST_F(CViewTasksCommandTest, WithAnEmptyListNoCommandDoesAnything)
 {
     InProgram([&](ProgramApp& app) {
         broughtForward.clear();
-        for (const UINT command : {32801, 114, 32800, 32799, 32792}) {
+        for (const UINT command : {CMD_SWITCH_TO_APPLICATION, CMD_ACTIVATE_ITEM, CMD_CLOSE_APPLICATION,
+                                   CMD_APPLICATION_INFO, CMD_WINDOWS_LIST}) {
             Run(app, command);
             EXPECT_EQ(app.dialogs->Count(), 0u) << command;
             EXPECT_EQ(Notice(app), L"") << command;
@@ -71,7 +72,8 @@ TEST_F(CViewTasksCommandTest, WithAMarkBehindTheLastRowNoCommandDoesAnything)
         SendMessageW(app.TaskList(), LVM_SETITEMCOUNT, 2, 0); // the control keeps its mark
         ASSERT_EQ(Mark(app.TaskList()), 4);
         broughtForward.clear();
-        for (const UINT command : {32801, 114, 32800, 32799, 32792}) {
+        for (const UINT command : {CMD_SWITCH_TO_APPLICATION, CMD_ACTIVATE_ITEM, CMD_CLOSE_APPLICATION,
+                                   CMD_APPLICATION_INFO, CMD_WINDOWS_LIST}) {
             Run(app, command);
             EXPECT_EQ(app.dialogs->Count(), 0u) << command;
             EXPECT_EQ(Notice(app), L"") << command;
@@ -87,7 +89,7 @@ TEST_F(CViewTasksCommandTest, SwitchBringsTheTaskWithItsPopupsForward)
     InProgram([&](ProgramApp& app) {
         app.Tasks().FillList(1);
         broughtForward.clear();
-        Run(app, 32801);
+        Run(app, CMD_SWITCH_TO_APPLICATION);
         Run(app, 114);
         EXPECT_EQ(broughtForward, (std::vector<HWND>{WithPopups(listed[1]), WithPopups(listed[1])}));
     });
@@ -100,7 +102,7 @@ TEST_F(CViewTasksCommandTest, SwitchToATaskThatHasGoneDoesNothing)
         app.Tasks().FillList(1);
         EndTask(listed[1]);
         broughtForward.clear();
-        Run(app, 32801);
+        Run(app, CMD_SWITCH_TO_APPLICATION);
         Run(app, 114);
         EXPECT_TRUE(broughtForward.empty());
         EXPECT_EQ(Notice(app), L"");
@@ -152,7 +154,7 @@ TEST_F(CViewTasksCommandTest, CloseOfATaskThatStaysSelectsItsNeighbour)
         send.instead = [&](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
             return message == WM_CLOSE ? 0 : send.Real(window, message, wParam, lParam);
         };
-        Run(app, 32800);
+        Run(app, CMD_CLOSE_APPLICATION);
         EXPECT_EQ(app.Tasks().TaskCount(), 3u);
         EXPECT_EQ(Mark(app.TaskList()), 1);
         const auto closes = std::count_if(send.calls.begin(), send.calls.end(), [&](const auto& call) {
@@ -169,7 +171,7 @@ TEST_F(CViewTasksCommandTest, CloseOfATaskThatHasGoneRebuildsTheListWithoutAMess
         app.Tasks().FillList(1);
         EndTask(listed[1]);
         Unlist(listed[1]);
-        Run(app, 32800);
+        Run(app, CMD_CLOSE_APPLICATION);
         ASSERT_EQ(sleep.calls.size(), 1u);
         EXPECT_EQ(app.Tasks().TaskCount(), 2u);
         EXPECT_EQ(Notice(app), L"");
@@ -183,7 +185,7 @@ TEST_F(CViewTasksCommandTest, TheShellsWindowsAreNotClosed)
         HWND shell = AddTask(L"Shell", className);
         InProgram([&](ProgramApp& app) {
             SPY(SetTimer) timer;
-            Run(app, 32800);
+            Run(app, CMD_CLOSE_APPLICATION);
             EXPECT_TRUE(IsWindow(shell));
             EXPECT_TRUE(sleep.calls.empty());
             EXPECT_EQ(Notice(app), L"It's forbidden to end this application!");
@@ -206,7 +208,7 @@ TEST_F(CViewTasksCommandTest, CloseOfTheProgramsOwnRowEndsTheProgram)
         SendMessageW(app.TaskList(), WM_KEYDOWN, VK_DOWN, 1);
         ASSERT_EQ(app.Tasks().Task(static_cast<uint32_t>(Mark(app.TaskList()))).window, app.MainWindow());
         Unlist(app.MainWindow());
-        Run(app, 32800);
+        Run(app, CMD_CLOSE_APPLICATION);
         EXPECT_FALSE(app.HasMainWindow());
         EXPECT_TRUE(sleep.calls.empty());
     });
@@ -224,7 +226,7 @@ TEST_F(CViewTasksCommandTest, ApplicationInfoShowsTheReportOnTheTask)
             seen = true;
             ASSERT_EQ(app.dialogs->Count(), 1u);
             HWND dialog = app.dialogs->At(0)->Window();
-            const std::wstring report = Text(GetDlgItem(dialog, 126));
+            const std::wstring report = Text(GetDlgItem(dialog, IDC_INFORMATION_TEXT));
             EXPECT_EQ(Text(dialog), L"Information");
             EXPECT_EQ(report.find(L"Executable:\r\n"), 0u);
             EXPECT_NE(
@@ -233,7 +235,7 @@ TEST_F(CViewTasksCommandTest, ApplicationInfoShowsTheReportOnTheTask)
                 << report;
             SendMessageW(dialog, WM_COMMAND, 2, 0);
         });
-        Run(app, 32799);
+        Run(app, CMD_APPLICATION_INFO);
         EXPECT_TRUE(seen);
         EXPECT_EQ(app.dialogs->Count(), 0u);
         EXPECT_TRUE(IsWindowEnabled(app.MainWindow()));
@@ -279,7 +281,7 @@ TEST_F(CViewTasksCommandTest, WindowsListShowsTheTasksProcessWithTheTaskSelected
             seen = true;
             ASSERT_EQ(app.dialogs->Count(), 1u);
             HWND dialog = app.dialogs->At(0)->Window();
-            HWND tree = GetDlgItem(dialog, 1000);
+            HWND tree = GetDlgItem(dialog, IDC_WINDOWS_TREE);
             wchar_t text[300] = {};
             TVITEMW item = {};
             item.mask = TVIF_TEXT | TVIF_PARAM;
@@ -293,7 +295,7 @@ TEST_F(CViewTasksCommandTest, WindowsListShowsTheTasksProcessWithTheTaskSelected
             EXPECT_EQ(item.lParam, reinterpret_cast<LPARAM>(listed[1]));
             SendMessageW(dialog, WM_COMMAND, 1, 0);
         });
-        Run(app, 32792);
+        Run(app, CMD_WINDOWS_LIST);
         EXPECT_TRUE(seen);
     });
 }
@@ -301,10 +303,10 @@ TEST_F(CViewTasksCommandTest, WindowsListShowsTheTasksProcessWithTheTaskSelected
 TEST_F(CViewTasksCommandTest, TheArrowsLeadToTheNeighbours)
 {
     InProgram([&](ProgramApp& app) {
-        Run(app, 32774);
+        Run(app, CMD_PREVIOUS_PAGE);
         EXPECT_EQ(app.ActiveView()->Id(), 4);
         app.ActivateView(1);
-        Run(app, 32775);
+        Run(app, CMD_NEXT_PAGE);
         EXPECT_EQ(app.ActiveView()->Id(), 3);
     });
 }
@@ -320,12 +322,12 @@ TEST_F(CViewTasksCommandTest, AListsNotificationsAreAnswered)
             return SendMessageW(page, WM_NOTIFY, control, reinterpret_cast<LPARAM>(&notification));
         };
         broughtForward.clear();
-        EXPECT_EQ(notify(110, LVN_ITEMACTIVATE), 0);
+        EXPECT_EQ(notify(IDC_LIST, LVN_ITEMACTIVATE), 0);
         EXPECT_EQ(broughtForward, std::vector<HWND>{WithPopups(listed[1])});
-        EXPECT_EQ(notify(110, 1000), 1);
+        EXPECT_EQ(notify(IDC_LIST, 1000), 1);
         for (const UINT code :
              {0u, 1u, 999u, 1001u, static_cast<UINT>(NM_CLICK), static_cast<UINT>(LVN_ITEMCHANGED)}) {
-            EXPECT_EQ(notify(110, code), 0) << code;
+            EXPECT_EQ(notify(IDC_LIST, code), 0) << code;
         }
         for (const UINT code : {static_cast<UINT>(LVN_ITEMACTIVATE), 1000u, 0u}) {
             EXPECT_EQ(notify(111, code), 1) << code;

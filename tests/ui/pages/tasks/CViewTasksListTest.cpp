@@ -27,7 +27,7 @@ class CViewTasksListTest : public ProgramTest
         return row >= top && row < top + SendMessageW(list, LVM_GETCOUNTPERPAGE, 0, 0);
     }
 
-    static void Refresh(ProgramApp& app) { app.Tasks().OnCommand(32793, 0, 0); }
+    static void Refresh(ProgramApp& app) { app.Tasks().OnCommand(CMD_REFRESH, 0, 0); }
 
     void AddTasks(int count)
     {
@@ -102,8 +102,9 @@ TEST_F(CViewTasksListTest, TheStripIsALineOfBoldTextAndNinePixelsHigh)
 
         MEASUREITEMSTRUCT measure = {};
         measure.CtlType = 102;
-        EXPECT_EQ(SendMessageW(app.Tasks().Window(), WM_MEASUREITEM, 110, reinterpret_cast<LPARAM>(&measure)),
-                  TRUE);
+        EXPECT_EQ(
+            SendMessageW(app.Tasks().Window(), WM_MEASUREITEM, IDC_LIST, reinterpret_cast<LPARAM>(&measure)),
+            TRUE);
         const int text = line + (dpi + 48) / 96 + (2 * dpi + 48) / 96;
         const int icon = app.Tasks().Look().Icons().height + (4 * dpi + 48) / 96;
         EXPECT_EQ(static_cast<int>(measure.itemHeight), text > icon ? text : icon);

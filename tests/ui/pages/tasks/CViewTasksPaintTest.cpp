@@ -1,6 +1,7 @@
 // The page of the running applications: how a row is drawn.
 // profiles: pocketpc pocketpc-vga
 #include "framework/Gdi.h"
+#include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
 static int S(int n, int index)
@@ -56,12 +57,12 @@ class CViewTasksPaintTest : public ProgramTest
 
         DRAWITEMSTRUCT item = {};
         item.CtlType = 102;
-        item.CtlID = 110;
+        item.CtlID = IDC_LIST;
         item.itemState = state;
         item.hwndItem = app.TaskList();
         item.hDC = target;
         item.rcItem = row;
-        EXPECT_EQ(SendMessageW(app.Tasks().Window(), WM_DRAWITEM, 110, reinterpret_cast<LPARAM>(&item)),
+        EXPECT_EQ(SendMessageW(app.Tasks().Window(), WM_DRAWITEM, IDC_LIST, reinterpret_cast<LPARAM>(&item)),
                   TRUE);
 
         EXPECT_EQ(GetTextColor(target), RGB(1, 2, 3));

@@ -1,5 +1,6 @@
 // The page of the running applications: what may happen while a command of it asks or shows something.
 // profiles: pocketpc smartphone
+#include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
 class TaskTurnsTest : public ProgramTest
@@ -31,7 +32,7 @@ TEST_F(TaskTurnsTest, TheNeighbourIsTheOneFromBeforeTheTaskWasAsked)
             }
             return result;
         };
-        SendMessageW(app.MainWindow(), WM_COMMAND, 32800, 0);
+        SendMessageW(app.MainWindow(), WM_COMMAND, CMD_CLOSE_APPLICATION, 0);
         EXPECT_FALSE(IsWindow(task));
         EXPECT_EQ(app.Tasks().Task(static_cast<uint32_t>(Mark(app.TaskList()))).window, below);
     });

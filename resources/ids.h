@@ -9,7 +9,8 @@
 #define IDS_BLANK 5
 #define IDS_DONE 6
 #define IDS_OK 103
-// The same texts once more for the menu bars: the shell takes a bar's strings with ids below 100 from its own module.
+// The same texts once more for the menu bars: the shell takes a bar's strings with ids below 100 from its own
+// module.
 #define IDS_BAR_HIDE 203
 #define IDS_BAR_MENU 204
 #define IDS_BAR_BLANK 205

@@ -48,7 +48,7 @@ class WindowChurn
 class VanishingWindowsTest : public ShellSession
 {
   protected:
-    static constexpr DWORD duration = 15000; // ms
+    static constexpr DWORD duration = 60000; // ms: a small chance in each round is to be met
     static constexpr int churning = 4;
 };
 

@@ -69,6 +69,32 @@ static void DeliverPending()
     PeekMessageW(&unused, nullptr, 0, 0, PM_NOREMOVE);
 }
 
+// On a busy machine the screen's driver tells of the activation that showing the window brought only after it
+// was lowered, and Wine then puts it before the others again, for good. So its place is looked at for a
+// second.
+static constexpr UINT_PTR lowerTimer = 0x7101; // beyond the ids of the program's own timers
+static constexpr UINT lowerMs = 100;
+static int lowersLeft; // of the program's one main window
+
+static void CALLBACK LowerAgain(HWND window, UINT, UINT_PTR timer, DWORD)
+{
+    if (--lowersLeft <= 0) {
+        KillTimer(window, timer);
+    }
+    // The user may have brought it, or a dialog of its, forward again meanwhile.
+    if (GetWindowThreadProcessId(GetForegroundWindow(), nullptr) != GetCurrentThreadId()) {
+        SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, keepPlace);
+    }
+}
+
+static void KeepLowered(HWND window)
+{
+    if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId()) {
+        lowersLeft = 10;
+        SetTimer(window, lowerTimer, lowerMs, LowerAgain);
+    }
+}
+
 // A disabled window waits for one that it owns, a dialog or a message box: that one is what the user wants to
 // see.
 static HWND WindowToActivate(const WindowStack& stack, HWND window)
@@ -129,6 +155,7 @@ BOOL SendToBackground(HWND window)
         }
     }
     SetWindowPos(window, HWND_BOTTOM, 0, 0, 0, 0, keepPlace | SWP_ASYNCWINDOWPOS);
+    KeepLowered(window);
     if (next) {
         SetForegroundWindow(next);
     } else {

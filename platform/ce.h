@@ -7,6 +7,8 @@
 
 #include "platform/ce/Aygshell.h"
 #include "platform/ce/Imaging.h"
+#include "platform/ce/Power.h"
+#include "platform/ce/Storage.h"
 #include "platform/ce/Toolhelp.h"
 
 #include "platform/ce/Sizes.h"

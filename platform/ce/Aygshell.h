@@ -41,6 +41,8 @@ struct SHRGINFO
     DWORD dwFlags;
 };
 
+#define SECPOLICY_PRIVELEGEDAPPS 4123 // 0: the device has two tiers of trust (spelled so by the platform)
+
 #define SHCMBF_EMPTYBAR 0x0001 // nToolBarId 0 is refused without it
 
 #define SHIDIM_FLAGS 0x0001
@@ -59,4 +61,6 @@ __declspec(dllimport) BOOL WINAPI
     SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info);
 __declspec(dllimport) BOOL WINAPI SHInitDialog(SHINITDLGINFO* info);
 __declspec(dllimport) void WINAPI SHSendBackToFocusWindow(UINT message, WPARAM wParam, LPARAM lParam);
+// By its number, 364: the value of a security policy.
+__declspec(dllimport) HRESULT WINAPI QueryPolicy(DWORD policyId, DWORD* value);
 }

@@ -5,6 +5,7 @@
 
 #include "platform/ce/Aygshell.h"
 #include "platform/ce/Imaging.h"
+#include "platform/ce/Power.h"
 #include "platform/ce/Toolhelp.h"
 #include "platform/ce/Windows.h"
 
@@ -79,6 +80,13 @@ static_assert(offsetof(SHELLEXECUTEINFOW, nShow) == 28);
 static_assert(HasSize<MEMORYSTATUS>(32));
 static_assert(offsetof(MEMORYSTATUS, dwTotalPhys) == 8);
 static_assert(offsetof(MEMORYSTATUS, dwAvailPhys) == 12);
+
+static_assert(offsetof(MEMORYSTATUS, dwTotalPageFile) == 16);
+static_assert(offsetof(MEMORYSTATUS, dwTotalVirtual) == 24);
+
+static_assert(HasSize<SYSTEM_POWER_STATUS_EX>(24));
+static_assert(offsetof(SYSTEM_POWER_STATUS_EX, BatteryLifeTime) == 4);
+static_assert(offsetof(SYSTEM_POWER_STATUS_EX, BackupBatteryLifePercent) == 14);
 
 static_assert(HasSize<SHFILEINFOW>(692));
 static_assert(offsetof(SHFILEINFOW, iIcon) == 4);

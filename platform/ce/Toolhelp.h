@@ -4,6 +4,9 @@
 #include "platform/ce/Windows.h"
 
 #define TH32CS_SNAPHEAPLIST 0x00000001
+#define TH32CS_SNAPPROCESS 0x00000002
+#define TH32CS_SNAPMODULE 0x00000008
+#define TH32CS_SNAPNOHEAPS 0x40000000 // heaps are walked one process at a time
 
 struct HEAPLIST32
 {
@@ -63,6 +66,11 @@ extern "C" {
 // INVALID_HANDLE_VALUE on failure.
 __declspec(dllimport) HANDLE WINAPI CreateToolhelp32Snapshot(DWORD flags, DWORD processId);
 __declspec(dllimport) BOOL WINAPI CloseToolhelp32Snapshot(HANDLE snapshot);
+// The entries' dwSize must be set before.
+__declspec(dllimport) BOOL WINAPI Process32First(HANDLE snapshot, PROCESSENTRY32* entry);
+__declspec(dllimport) BOOL WINAPI Process32Next(HANDLE snapshot, PROCESSENTRY32* entry);
+__declspec(dllimport) BOOL WINAPI Module32First(HANDLE snapshot, MODULEENTRY32* entry);
+__declspec(dllimport) BOOL WINAPI Module32Next(HANDLE snapshot, MODULEENTRY32* entry);
 __declspec(dllimport) BOOL WINAPI Heap32ListFirst(HANDLE snapshot, HEAPLIST32* list);
 __declspec(dllimport) BOOL WINAPI Heap32ListNext(HANDLE snapshot, HEAPLIST32* list);
 __declspec(dllimport) BOOL WINAPI

@@ -1,6 +1,7 @@
 // Start-up of the executable on the device: Headers.S calls it with what the system hands to a new process.
 #include "platform/device/Aygshell.h"
 #include "platform/device/LateFunction.h"
+#include "platform/device/MobileFunctions.h"
 
 #include "LateExports.h"
 
@@ -32,6 +33,7 @@ extern "C" [[noreturn]] void ProgramStart(HINSTANCE instance, HINSTANCE previous
     }
     RegisterCommonControls();
     LookUpShellFunctions();
+    LookUpMobileFunctions();
     const int result = ProgramMain(instance, previousInstance, processCommandLine, showCommand);
     TerminateProcess(GetCurrentProcess(), static_cast<UINT>(result));
     // The call may return while the process is being taken down.

@@ -112,3 +112,9 @@ extern "C" void WINAPI ce_SHSendBackToFocusWindow(UINT message, WPARAM, LPARAM l
         PostMessageW(focus, WM_CHAR, L'\b', 1);
     }
 }
+
+extern "C" HRESULT WINAPI ce_QueryPolicy(DWORD /*policyId*/, DWORD* value)
+{
+    *value = GetLastError() == ERROR_ACCESS_DENIED ? 0 : 1;
+    return S_OK;
+}

@@ -1,11 +1,9 @@
-// The exports of the tool-help substitute.
+// The exports of the tool-help substitute: snapshots, and the walk over heaps.
 #include "platform/pc/toolhelp/Snapshot.h"
+#include "platform/pc/toolhelp/SystemWalk.h"
 
 #include <algorithm>
 #include <vector>
-
-static constexpr DWORD noHeaps =
-    0x40000000; // the device's "processes without their heaps", which the PC's walk never has
 
 // The heap snapshots that are open. Every other handle is the system's own.
 static std::vector<HeapSnapshot*> snapshots;
@@ -45,9 +43,9 @@ static BOOL FillEntry(bool found, SIZE_T size, HEAPENTRY32* entry)
 
 extern "C" HANDLE WINAPI ce_CreateToolhelp32Snapshot(DWORD flags, DWORD processId)
 {
-    flags &= ~noHeaps;
+    flags &= ~TH32CS_SNAPNOHEAPS; // which the PC's walk over processes never has
     if ((flags & TH32CS_SNAPHEAPLIST) == 0) {
-        return CreateToolhelp32Snapshot(flags, processId);
+        return TakeSystemSnapshot(flags, processId);
     }
     HeapSnapshot* const snapshot = TakeHeapSnapshot(processId);
     if (!snapshot) {

@@ -5,9 +5,10 @@ include(${PROJECT_SOURCE_DIR}/platform/device/Imports.cmake)
 # qv_add_device_parts(<target>)
 function(qv_add_device_parts target)
     set(folder ${PROJECT_SOURCE_DIR}/platform/device)
-    set(parts ${folder}/Aygshell.cpp ${folder}/start.cpp)
+    set(parts ${folder}/Aygshell.cpp ${folder}/MobileFunctions.cpp ${folder}/start.cpp)
     set(definitions "")
-    foreach(name SHHandleWMSettingChange SHHandleWMActivate SHSendBackToFocusWindow GetCommandLineW ProgramMain)
+    foreach(name SHHandleWMSettingChange SHHandleWMActivate SHSendBackToFocusWindow FindFirstFlashCard
+            FindNextFlashCard GetSystemPowerStatusEx QueryPolicy GetCommandLineW ProgramMain)
         list(APPEND definitions ${name}=Device${name})
     endforeach()
     # The names' declarations say that a library has them, and the precompiled header has read those.

@@ -151,6 +151,10 @@ TEST_F(DeviceStartTest, WhatIsMissingIsToldBeforeTheProgramBeginsAndDoesNothingI
                           "aygshell.dll 97",
                           "box: This device's shell lacks a function (aygshell.dll, 97): "
                           "the Back key does not delete text.",
+                          "note_prj.dll 7",
+                          "note_prj.dll 8",
+                          "coredll.dll GetSystemPowerStatusEx",
+                          "aygshell.dll 364",
                           "the program begins",
                       }));
 }

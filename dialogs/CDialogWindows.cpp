@@ -12,6 +12,12 @@ CDialogWindows::CDialogWindows(DWORD listedProcessId, const wchar_t* rootCaption
     : processId(listedProcessId), caption(rootCaption), preselect(preselectedWindow)
 {}
 
+int CDialogWindows::Show(DWORD listedProcessId, const wchar_t* rootCaption, HWND preselectedWindow)
+{
+    CDialogWindows dialog(listedProcessId, rootCaption, preselectedWindow);
+    return dialog.StartDialog(IDD_WINDOWS, IDB_WINDOWS, 0, true);
+}
+
 HWND CDialogWindows::Tree() const
 {
     return GetDlgItem(window, IDC_WINDOWS_TREE);

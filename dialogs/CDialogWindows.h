@@ -22,6 +22,9 @@ class CDialogWindows : public CVireoDialog
     void OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM control) override;
     INT_PTR DialogProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    // Shows the windows of a process until the user closes the dialog; preselectedWindow may be null.
+    static int Show(DWORD listedProcessId, const wchar_t* rootCaption, HWND preselectedWindow);
+
   private:
     HWND Tree() const;
     void InsertTopLevelWindows();

@@ -4,6 +4,8 @@
 #include "lists/CLB_Base.h"
 #include "lists/CRowLook.h"
 
+class CRowPainter;
+
 class CLB_SingleLine : public CLB_Base
 {
   protected:
@@ -14,4 +16,6 @@ class CLB_SingleLine : public CLB_Base
     {}
 
     int RowHeight() const override;
+    // A name at the left and a size in bytes at the right end of area; a long name ends before the size.
+    void DrawNameAndSize(CRowPainter& painter, const wchar_t* name, uint64_t bytes, RECT area) const;
 };

@@ -1,7 +1,6 @@
 // Rows of the running applications: icon, name and heap usage.
 #include "pages/tasks/CLB_Tasks.h"
 
-#include "framework/Scale.h"
 #include "lists/CRowPainter.h"
 
 static constexpr SListTraits tasksListTraits = {L"CLB_Tasks::Construct", L"CLB_Tasks::RecreateColumns", true};
@@ -20,9 +19,5 @@ void CLB_Tasks::DrawRow(HDC target, const RECT& rect, uint32_t row, bool selecte
     } else {
         painter.DrawIcon(icons.list, task.iconIndex, icons.height);
     }
-    CStr size;
-    size.AppendSize(static_cast<int64_t>(task.heapBytes));
-    RECT area = painter.TextArea(icons.width);
-    area.right -= painter.DrawRight(look.NormalFont(), size, area) + ScaleX(2);
-    painter.DrawLeft(look.BoldFont(), task.name, area);
+    DrawNameAndSize(painter, task.name, task.heapBytes, painter.TextArea(icons.width));
 }

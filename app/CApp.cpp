@@ -58,7 +58,7 @@ void CApp::AddPage(CVireoView* page, PageId id, uint32_t menuBarId, uint32_t acc
 void CApp::AddPages()
 {
     AddPage(new CViewTasks(startPrograms), PageTasks, IDB_TASKS, IDA_TASKS);
-    AddPage(new CViewSysInfo, PageSysInfo, IDB_SYSINFO, IDA_SYSINFO);
+    AddPage(new CViewSysInfo(*resources), PageSysInfo, IDB_SYSINFO, IDA_SYSINFO);
     AddPage(new CViewStart, PageStart, IDB_START, IDA_START);
     AddPage(new CViewProcs, PageProcs, IDB_PROCS, IDA_PROCS);
 }

@@ -15,3 +15,10 @@ inline void AppendLabelledHex(CStr& report, const wchar_t* label, uint32_t value
     report.Append(label);
     report.AppendHex(value);
 }
+
+// A size in bytes.
+inline void AppendLabelledSize(CStr& report, const wchar_t* label, int64_t bytes)
+{
+    report.Append(label);
+    report.AppendSize(bytes);
+}

@@ -43,6 +43,9 @@ class CLB_Base
     bool MeasureItem(MEASUREITEMSTRUCT& measure);
     bool DrawItem(const DRAWITEMSTRUCT& draw);
 
+    // The number of records that rows can be drawn from now.
+    virtual uint32_t RecordCount() const = 0;
+
     HWND Window() const { return window; }
     // What the control says of itself. Its selection mark may lie behind the last row.
     uint32_t Count() const;
@@ -64,8 +67,6 @@ class CLB_Base
 
   protected:
     virtual int RowHeight() const = 0; // pixels
-    // The number of records that rows can be drawn from now.
-    virtual uint32_t RecordCount() const = 0;
     virtual void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) = 0;
     // The text shown in place of rows; empty for none.
     virtual void EmptyText(CStr& text) const;

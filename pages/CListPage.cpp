@@ -21,7 +21,7 @@ void CListPage::OnCreate()
 
 void CListPage::OnActivate(int32_t /*previousViewId*/)
 {
-    Fill(traits.activationRow);
+    FillContents(traits.activationRow);
     List().RecreateColumns(true);
     SetFocus(FocusWindow());
     if (List().Count() > 0) {
@@ -35,15 +35,28 @@ void CListPage::OnActivate(int32_t /*previousViewId*/)
     UpdateWindow(window);
 }
 
-void CListPage::SetRowCount(uint32_t count)
+bool CListPage::Recollect()
 {
-    List().SetCount(count);
-    List().ClampSelection();
+    if (collecting) {
+        return false;
+    }
+    collecting = true;
+    Collect();
+    collecting = false;
+    return true;
+}
+
+void CListPage::FillContents(int /*row*/)
+{
+    if (Recollect()) {
+        List().SetCount(List().RecordCount());
+        List().ClampSelection(); // the list may have become shorter
+    }
 }
 
 void CListPage::Refresh()
 {
-    Fill(List().SelectedRow());
+    FillContents(List().SelectedRow());
     ShowRefilled();
 }
 

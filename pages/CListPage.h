@@ -25,10 +25,11 @@ class CListPage : public CVireoView
     explicit CListPage(const SPageTraits& pageTraits) : traits(pageTraits) {}
 
     virtual CLB_Base& List() = 0;
-    // Rebuilds the records and tells the list their number. row is the row whose content should stay
-    // selected; -1 means the row at the selection mark.
-    virtual void Fill(int row) = 0;
-    // The refresh of a page whose records have no identity keeps the row number.
+    // Frees the records and asks the platform for them anew.
+    virtual void Collect() = 0;
+    // Collects, unless that is under way already: the shell's answers about icons, and a fatal report's box,
+    // let refreshes in. False then.
+    bool Recollect();
     virtual void Refresh();
     // Where the list begins, in pixels from the page's top edge.
     virtual int ListTop() const { return headerHeight; }
@@ -38,8 +39,6 @@ class CListPage : public CVireoView
     virtual HWND FocusWindow() { return List().Window(); }
     // Tells the list that the records were rebuilt and paints it at once.
     void ShowRefilled();
-    // A selection mark that is not a row any more moves to the last one.
-    void SetRowCount(uint32_t count);
 
   public:
     void Create(int32_t viewId, uint32_t viewMenuBarId, uint32_t viewAcceleratorId) override;
@@ -49,10 +48,16 @@ class CListPage : public CVireoView
     void OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM control) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    // Rebuilds the records and tells the list their number. row is the row whose content should stay
+    // selected, -1 the row at the selection mark; records without an identity keep the row number.
+    virtual void FillContents(int row);
+
     const CRowLook& Look() const { return look; }
     int HeaderHeight() const { return headerHeight; }
 
   private:
+    bool collecting = false;
+
     void TapHeader(POINT point);
     LRESULT Notify(const NMHDR& notification);
 };

@@ -4,8 +4,3 @@
 static constexpr SPageTraits pageTraits = {0, 0, 0};
 
 CViewStart::CViewStart() : CListPage(pageTraits), list(look) {}
-
-void CViewStart::Fill(int /*row*/)
-{
-    SetRowCount(0);
-}

@@ -13,5 +13,5 @@ class CViewStart : public CListPage
 
   protected:
     CLB_Base& List() override { return list; }
-    void Fill(int row) override;
+    void Collect() override {}
 };

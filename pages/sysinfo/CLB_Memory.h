@@ -1,14 +1,25 @@
-// The list of the system information page; it has no records yet.
+// The list of the system information page: each row a gauge.
 #pragma once
 
-#include "lists/CLB_SingleLine.h"
+#include "framework/CRecords.h"
+#include "lists/CLB_Base.h"
+#include "lists/CRowLook.h"
+#include "pages/sysinfo/CGaugePictures.h"
 
-class CLB_Memory : public CLB_SingleLine
+class CLB_Memory : public CLB_Base
 {
+    const CRowLook& look;
+    const CRecords<SSysInfo>& rows;
+    const CGaugePictures& pictures;
+    const MemoryDC& memory; // what the pictures are drawn through
+
   public:
-    explicit CLB_Memory(const CRowLook& rowLook);
+    CLB_Memory(const CRowLook& rowLook, const CRecords<SSysInfo>& records,
+               const CGaugePictures& gaugePictures, const MemoryDC& pictureContext);
+
+    uint32_t RecordCount() const override { return rows.Count(); }
 
   protected:
-    uint32_t RecordCount() const override { return 0; }
+    int RowHeight() const override;
     void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) override;
 };

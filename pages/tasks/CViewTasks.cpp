@@ -49,15 +49,17 @@ void CViewTasks::FillList(int row)
     Rebuild(WindowOfRow(row != -1 ? row : list.SelectedRow()));
 }
 
-void CViewTasks::Rebuild(HWND keepSelected)
+void CViewTasks::Collect()
 {
-    if (rebuilding) {
-        return; // the shell's answers about icons may let a refresh in
-    }
-    rebuilding = true;
     tasks.Clear();
     EnumWindows(EnumTasksProc, reinterpret_cast<LPARAM>(&tasks));
-    rebuilding = false;
+}
+
+void CViewTasks::Rebuild(HWND keepSelected)
+{
+    if (!Recollect()) {
+        return;
+    }
     list.SetCount(tasks.Count());
     for (uint32_t i = 0; keepSelected != nullptr && i < tasks.Count(); ++i) {
         if (tasks.At(i)->window == keepSelected) {
@@ -140,6 +142,5 @@ void CViewTasks::ShowWindowsList(HWND target)
     const DWORD processId = WindowProcessId(target);
     CStr path;
     ProcessImagePath(processId, path);
-    CDialogWindows dialog(processId, FileNameOf(path), target);
-    dialog.StartDialog(IDD_WINDOWS, IDB_WINDOWS, 0, true);
+    CDialogWindows::Show(processId, FileNameOf(path), target);
 }

@@ -10,7 +10,6 @@
 class CViewTasks : public CListPage
 {
     CTaskRecords tasks;
-    bool rebuilding = false;
     bool firstShow = true;
     CLB_Tasks list;
 
@@ -21,6 +20,7 @@ class CViewTasks : public CListPage
     void OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM control) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    void FillContents(int row) override { FillList(row); }
     // Rebuilds the records, keeping the task of a row selected; -1 means the row at the selection mark.
     void FillList(int row);
     const STaskInfo& Task(uint32_t row) const { return *tasks.At(row); }
@@ -28,7 +28,7 @@ class CViewTasks : public CListPage
 
   protected:
     CLB_Base& List() override { return list; }
-    void Fill(int row) override { FillList(row); }
+    void Collect() override;
     void Refresh() override;
 
   private:

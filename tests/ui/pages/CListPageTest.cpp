@@ -27,15 +27,16 @@ class CListPageTest : public UiTest
             Note("page OnCommand " + Numbers(commandId, notifyCode, control));
             CListPage::OnCommand(commandId, notifyCode, control);
         }
+        void FillContents(int row) override
+        {
+            filled.push_back(row);
+            CListPage::FillContents(row);
+        }
         using CListPage::Refresh;
 
       protected:
         CLB_Base& List() override { return list; }
-        void Fill(int row) override
-        {
-            filled.push_back(row);
-            SetRowCount(rows);
-        }
+        void Collect() override { list.records = rows; }
     };
 
     // Runs a test on an active page with the id 3.

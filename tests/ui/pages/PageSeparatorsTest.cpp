@@ -3,8 +3,8 @@
 #include "pages/start/CLB_Start.h"
 #include "pages/sysinfo/CLB_Memory.h"
 #include "pages/tasks/CLB_Tasks.h"
-#include "startmenu/CStartPrograms.h"
 #include "tests/ui/UiTest.h"
+#include "tests/ui/pages/MadePage.h"
 
 // The page's list without what its rows show.
 template <typename List>
@@ -74,10 +74,14 @@ TEST_F(PageSeparatorsTest, TheSingleLineListsHaveThem)
     ForgetClasses();
     EXPECT_EQ(Strips<CLB_Start>(), tasks);
     ForgetClasses();
-    EXPECT_EQ(Strips<CLB_Procs>(), tasks);
+    const CRecords<SProcInfo> processes;
+    EXPECT_EQ(Strips<CLB_Procs>(processes), tasks);
 }
 
 TEST_F(PageSeparatorsTest, TheSystemInformationHasNone)
 {
-    EXPECT_EQ(Strips<CLB_Memory>(), 0U);
+    const CRecords<SSysInfo> rows;
+    const CGaugePictures pictures(BuiltContainer());
+    const MemoryDC memory(nullptr);
+    EXPECT_EQ(Strips<CLB_Memory>(rows, pictures, memory), 0U);
 }

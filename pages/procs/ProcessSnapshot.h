@@ -1,0 +1,11 @@
+// The processes of the system.
+#pragma once
+
+#include "framework/CRecords.h"
+#include "pages/procs/SProcInfo.h"
+
+// Replaces the records by one for each process, in the system's order. A system that cannot be asked is
+// fatal.
+void TakeProcessSnapshot(CRecords<SProcInfo>& processes);
+// Whether an id has meanwhile been given to a process of another name. False too when no process has it.
+bool IsTakenByAnother(const SProcIdentity& process);

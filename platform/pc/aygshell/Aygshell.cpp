@@ -2,6 +2,7 @@
 #include "platform/ce.h"
 #include "platform/pc/aygshell/BarOwner.h"
 #include "platform/pc/aygshell/MenuBar.h"
+#include "platform/pc/common/ActiveProfile.h"
 #include "platform/pc/common/Screen.h"
 
 #include <vector>
@@ -113,8 +114,20 @@ extern "C" void WINAPI ce_SHSendBackToFocusWindow(UINT message, WPARAM, LPARAM l
     }
 }
 
-extern "C" HRESULT WINAPI ce_QueryPolicy(DWORD /*policyId*/, DWORD* value)
+// Without a word of the profile on it, the tiers are told by the failure that the question is about: the
+// program asks right after OpenProcess failed, so its error is still the last one. It is taken before
+// anything else is called.
+extern "C" HRESULT WINAPI ce_QueryPolicy(DWORD policyId, DWORD* value)
 {
-    *value = GetLastError() == ERROR_ACCESS_DENIED ? 0 : 1;
+    const bool denied = GetLastError() == ERROR_ACCESS_DENIED;
+    if (!value) {
+        return E_POINTER;
+    }
+    if (policyId != SECPOLICY_PRIVELEGEDAPPS) {
+        return E_INVALIDARG;
+    }
+    const int tier = handheld::ActiveProfile().securityTier;
+    const bool twoTiers = tier == 0 ? denied : tier == 2;
+    *value = twoTiers ? 0 : 1;
     return S_OK;
 }

@@ -1,19 +1,13 @@
 // Profile: the description of the handheld that the substitute DLLs and the shell pretend to be.
 #pragma once
 
+#include "platform/pc/common/Scripts.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace handheld {
-
-// What a heap walk of one program shall find: heaps, each a list of block sizes in bytes. An empty heap is
-// one whose walk fails at its first block.
-struct HeapScript
-{
-    std::wstring program; // executable file name, lower case
-    std::vector<std::vector<unsigned>> heaps;
-};
 
 struct Profile
 {
@@ -22,12 +16,19 @@ struct Profile
     int height = 320;
     int dpi = 96;
     int securityTier = 0;            // 1 or 2; 0 leaves it to the failure at hand
-    std::vector<std::wstring> cards; // folders of the storage cards
+    std::wstring root;               // folder without a backslash at its end; empty: the system's drive
+    std::vector<std::wstring> cards; // folders of the storage cards in the root; a name may be empty
+    MemoryScript memory;
+    BatteryScript battery;
+    std::vector<StorageScript> storageScripts;
     std::vector<HeapScript> heapScripts;
+    std::vector<ProcessScript> processScripts;
 
     bool IsSmartphone() const;
-    // The script for a program by its file name or path; null when its real heaps count.
+    // The scripts for a program by its file name or path; null when what is real counts.
     const HeapScript* FindHeapScript(std::wstring_view program) const;
+    const ProcessScript* FindProcessScript(std::wstring_view program) const;
+    const StorageScript* FindStorageScript(std::wstring_view path) const;
 };
 
 // Reads the text of a profile file. Unknown sections and keys are ignored; a malformed value leaves the

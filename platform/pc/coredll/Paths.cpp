@@ -1,4 +1,5 @@
 // Paths of programs and names of files.
+#include "platform/pc/common/DevicePath.h"
 #include "platform/pc/common/FindPattern.h"
 
 #include <windows.h>
@@ -58,7 +59,11 @@ extern "C" DWORD WINAPI ce_GetModuleFileNameW(HMODULE module, wchar_t* path, DWO
 // The PC's search also yields "." and ".." and takes "*.lnk" for "a.lnkx".
 extern "C" HANDLE WINAPI ce_FindFirstFileW(const wchar_t* pattern, WIN32_FIND_DATAW* data)
 {
-    const HANDLE search = FindFirstFileW(pattern, data);
+    if (!pattern) {
+        SetLastError(ERROR_PATH_NOT_FOUND);
+        return INVALID_HANDLE_VALUE;
+    }
+    const HANDLE search = FindFirstFileW(handheld::DevicePath(pattern).c_str(), data);
     if (search == INVALID_HANDLE_VALUE) {
         return search;
     }

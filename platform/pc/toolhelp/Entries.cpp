@@ -1,5 +1,6 @@
 // The exports of the tool-help substitute that walk over processes and modules.
 #include "platform/ce.h"
+#include "platform/pc/common/ProcessPath.h"
 #include "platform/pc/toolhelp/SystemWalk.h"
 
 // As strict as the device: an entry of another size is refused.
@@ -35,6 +36,11 @@ static BOOL FillModule(HANDLE snapshot, bool first, MODULEENTRY32* entry)
     if (!HasRightSize(entry) || !WalkModules(snapshot, first, module)) {
         return FALSE;
     }
+    const handheld::ProcessScript* const script = handheld::ScriptOfProcess(module.processId);
+    if (script && script->noModules) {
+        SetLastError(ERROR_NO_MORE_FILES);
+        return FALSE;
+    }
     *entry = {};
     entry->dwSize = sizeof *entry;
     entry->th32ModuleID = module.id;
@@ -45,7 +51,9 @@ static BOOL FillModule(HANDLE snapshot, bool first, MODULEENTRY32* entry)
     entry->modBaseSize = module.size;
     entry->hModule = module.handle;
     lstrcpyW(entry->szModule, module.name);
-    lstrcpyW(entry->szExePath, module.path);
+    if (!script || !script->noModulePaths) {
+        lstrcpyW(entry->szExePath, module.path);
+    }
     return TRUE;
 }
 

@@ -1,7 +1,7 @@
 // The three kinds of heap snapshots.
 #include "platform/pc/toolhelp/Snapshot.h"
 
-#include "platform/pc/common/ActiveProfile.h"
+#include "platform/pc/common/ProcessPath.h"
 
 #include <psapi.h>
 
@@ -105,10 +105,7 @@ static const handheld::HeapScript* FindScript(HANDLE process)
     if (profile.heapScripts.empty()) {
         return nullptr;
     }
-    wchar_t path[MAX_PATH] = {};
-    DWORD length = MAX_PATH;
-    QueryFullProcessImageNameW(process, 0, path, &length);
-    return profile.FindHeapScript(path);
+    return profile.FindHeapScript(handheld::PathOfProcess(process));
 }
 
 HeapSnapshot* TakeHeapSnapshot(DWORD processId)

@@ -1,4 +1,5 @@
 // The exports of the tool-help substitute: snapshots, and the walk over heaps.
+#include "platform/pc/common/ProcessPath.h"
 #include "platform/pc/toolhelp/Snapshot.h"
 #include "platform/pc/toolhelp/SystemWalk.h"
 
@@ -44,7 +45,17 @@ static BOOL FillEntry(bool found, SIZE_T size, HEAPENTRY32* entry)
 extern "C" HANDLE WINAPI ce_CreateToolhelp32Snapshot(DWORD flags, DWORD processId)
 {
     flags &= ~TH32CS_SNAPNOHEAPS; // which the PC's walk over processes never has
-    if ((flags & TH32CS_SNAPHEAPLIST) == 0) {
+    const bool ofModules = (flags & TH32CS_SNAPMODULE) != 0;
+    const bool ofHeaps = (flags & TH32CS_SNAPHEAPLIST) != 0;
+    if (ofModules || ofHeaps) {
+        const handheld::ProcessScript* const script =
+            handheld::ScriptOfProcess(processId ? processId : GetCurrentProcessId());
+        if (script && ((ofModules && script->noModuleSnapshot) || (ofHeaps && script->noHeaps))) {
+            SetLastError(ERROR_ACCESS_DENIED);
+            return INVALID_HANDLE_VALUE;
+        }
+    }
+    if (!ofHeaps) {
         return TakeSystemSnapshot(flags, processId);
     }
     HeapSnapshot* const snapshot = TakeHeapSnapshot(processId);

@@ -1,10 +1,9 @@
 // Heap walks by the tool-help substitute: scripted, of the own process and of another one.
 #include "platform/ce.h"
-#include "tests/support/TempFolder.h"
+#include "tests/support/ChildProgram.h"
+#include "tests/support/OwnProfile.h"
 
 #include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 
@@ -44,61 +43,18 @@ static Walk WalkProcess(DWORD process)
     return walk;
 }
 
-namespace {
-
-// A program that waits for its input and is ended with the object.
-class Child
-{
-  public:
-    explicit Child(const wchar_t* program)
-    {
-        std::wstring commandLine = program;
-        STARTUPINFOW startup = {};
-        startup.cb = sizeof startup;
-        startup.dwFlags = STARTF_USESTDHANDLES; // none: it must not hold this process's output open
-        EXPECT_TRUE(CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
-                                   nullptr, nullptr, &startup, &process));
-    }
-    Child(const Child&) = delete;
-    Child& operator=(const Child&) = delete;
-    ~Child()
-    {
-        End();
-        CloseHandle(process.hThread);
-        CloseHandle(process.hProcess);
-    }
-    DWORD Id() const { return process.dwProcessId; }
-    void End()
-    {
-        TerminateProcess(process.hProcess, 0);
-        WaitForSingleObject(process.hProcess, 5000);
-    }
-
-  private:
-    PROCESS_INFORMATION process = {};
-};
-
-} // namespace
-
-// The profile is read once in a process, so one is made before the first walk.
 class PlatformHeapsTest : public testing::Test
 {
   protected:
-    static void SetUpTestSuite()
-    {
-        static const TempFolder folder;
-        const char text[] = "[heap]\ncmd.exe = 1000, 24 | | 4294967295\n";
-        const std::vector<unsigned char> bytes(text, text + sizeof text - 1);
-        SetEnvironmentVariableW(L"HANDHELD_PROFILE", folder.WriteFile(L"heaps.ini", bytes).c_str());
-    }
+    static void SetUpTestSuite() { UseOwnProfile("[heap]\ncmd.exe = 1000, 24 | | 4294967295\n"); }
 };
 
 TEST_F(PlatformHeapsTest, AScriptedProcessHasTheBlocksOfItsScript)
 {
-    if (testing::UnitTest::GetInstance()->test_suite_to_run_count() > 1) {
+    if (!IsOnlySuite()) {
         GTEST_SKIP() << "another suite may have read the profile already; run this one alone";
     }
-    const Child child(L"C:\\windows\\system32\\cmd.exe");
+    const ChildProgram child(L"C:\\windows\\system32\\cmd.exe");
     const Walk walk = WalkProcess(child.Id());
     EXPECT_TRUE(walk.taken);
     EXPECT_EQ(walk.heaps, 3);
@@ -121,7 +77,7 @@ TEST_F(PlatformHeapsTest, TheOwnHeapsGrowByWhatIsAllocated)
 
 TEST_F(PlatformHeapsTest, AnotherProcessIsOneBlock)
 {
-    Child child(L"C:\\windows\\system32\\winver.exe");
+    ChildProgram child(L"C:\\windows\\system32\\winver.exe");
     const Walk walk = WalkProcess(child.Id());
     EXPECT_TRUE(walk.taken);
     EXPECT_EQ(walk.heaps, 1);
@@ -150,7 +106,7 @@ TEST_F(PlatformHeapsTest, ARecordWithoutItsSizeOrAnUnknownHeapIsRefused)
 
 TEST_F(PlatformHeapsTest, TheHeapBehindTheLastIsRefused)
 {
-    const Child child(L"C:\\windows\\system32\\winver.exe");
+    const ChildProgram child(L"C:\\windows\\system32\\winver.exe");
     const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, child.Id());
     ASSERT_NE(snapshot, INVALID_HANDLE_VALUE);
     HEAPENTRY32 entry = {};

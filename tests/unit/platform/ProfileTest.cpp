@@ -15,6 +15,7 @@ TEST(ProfileTest, AnEmptyTextIsAPocketPc)
     EXPECT_EQ(profile.dpi, 96);
     EXPECT_EQ(profile.securityTier, 0);
     EXPECT_TRUE(profile.cards.empty());
+    EXPECT_EQ(profile.root, L"");
     EXPECT_FALSE(profile.IsSmartphone());
 }
 
@@ -23,7 +24,7 @@ TEST(ProfileTest, TheHandheldSectionSetsEveryField)
     const Profile profile =
         ParseProfile(L"; a comment\r\n[HandHeld]\r\n platform = SmartPhone \r\nWidth=480\r\n"
                      L"height = 640\r\ndpi=192\r\ntier=2\r\n"
-                     L"cards = \\Storage Card, \\CF Card\r\n");
+                     L"cards = \\Storage Card, CF Card\r\nroot = D:\\Device\\\r\n");
     EXPECT_EQ(profile.platformName, L"SmartPhone");
     EXPECT_TRUE(profile.IsSmartphone());
     EXPECT_EQ(profile.width, 480);
@@ -31,13 +32,30 @@ TEST(ProfileTest, TheHandheldSectionSetsEveryField)
     EXPECT_EQ(profile.dpi, 192);
     EXPECT_EQ(profile.securityTier, 2);
     ASSERT_EQ(profile.cards.size(), 2u);
-    EXPECT_EQ(profile.cards[0], L"\\Storage Card");
-    EXPECT_EQ(profile.cards[1], L"\\CF Card");
+    EXPECT_EQ(profile.cards[0], L"Storage Card");
+    EXPECT_EQ(profile.cards[1], L"CF Card");
+    EXPECT_EQ(profile.root, L"D:\\Device");
 }
 
 TEST(ProfileTest, TheLastLineNeedsNoEndAndTheFirstMayHaveAByteOrderMark)
 {
     EXPECT_EQ(ParseProfile(L"\xFEFF[handheld]\nwidth=320").width, 320);
+}
+
+TEST(ProfileTest, ACommentEndsALineButNoName)
+{
+    const Profile profile = ParseProfile(L"[handheld] ; the device\nplatform = PocketPC ; or SmartPhone\n"
+                                         L"#width = 111\nwidth = 333 # pixels\ncards = C# Card, A;B ;, D\n");
+    EXPECT_EQ(profile.platformName, L"PocketPC");
+    EXPECT_EQ(profile.width, 333);
+    EXPECT_EQ(profile.cards, (std::vector<std::wstring>{L"C# Card", L"A;B"}));
+}
+
+TEST(ProfileTest, ACardMayHaveNoNameOnlyInQuotes)
+{
+    const Profile profile = ParseProfile(L"[handheld]\ncards = \"\", , \"A Card\", \\, B,\n");
+    EXPECT_EQ(profile.cards, (std::vector<std::wstring>{L"", L"A Card", L"", L"B"}));
+    EXPECT_TRUE(ParseProfile(L"[handheld]\ncards = A\ncards =\n").cards.empty());
 }
 
 TEST(ProfileTest, MalformedValuesLeaveTheDefaults)

@@ -169,4 +169,15 @@ LRESULT Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     return static_cast<LRESULT>(result);
 }
 
+std::wstring BoxText(HWND box)
+{
+    for (HWND child = nullptr; (child = FindWindowExW(box, child, L"Static", nullptr)) != nullptr;) {
+        const std::wstring text = TextOf(child);
+        if (!text.empty()) {
+            return text;
+        }
+    }
+    return {};
+}
+
 } // namespace rig

@@ -39,6 +39,9 @@ DWORD ProcessOf(HWND window);
 // The text of a window or control of any process, by WM_GETTEXT; empty when the window does not answer.
 std::wstring TextOf(HWND window);
 
+// The text of a message box, without its caption.
+std::wstring BoxText(HWND box);
+
 // The file name, without folder, of a process's executable; empty when it has ended.
 std::wstring ExecutableOf(DWORD process);
 

@@ -147,17 +147,6 @@ POINT SoftKeyPoint(HWND bar, int key)
     return {rect.left + width / 4 + key * width / 2, (rect.top + rect.bottom) / 2};
 }
 
-std::wstring BoxText(HWND box)
-{
-    for (HWND child = nullptr; (child = FindWindowExW(box, child, L"Static", nullptr)) != nullptr;) {
-        const std::wstring text = TextOf(child);
-        if (!text.empty()) {
-            return text;
-        }
-    }
-    return {};
-}
-
 int PageAfter(int page, int steps)
 {
     int place = 0;

@@ -88,6 +88,4 @@ RECT ScreenRect();
 HWND BarOf(HWND owner);
 // The middle of one of its two keys on the screen: 0 left, 1 right.
 POINT SoftKeyPoint(HWND bar, int key);
-// The text of a message box, without its caption.
-std::wstring BoxText(HWND box);
 int PageAfter(int page, int steps);

@@ -10,46 +10,8 @@
 
 using namespace rig;
 
-static constexpr int tasksPage = 1;
-static constexpr int sysInfoPage = 2;
-static constexpr int launcherPage = 3;
-static constexpr int procsPage = 4;
 // A screen on which nothing has been drawn, or text alone without icons and bands, has fewer.
 static constexpr int fewestColours = 8;
-
-static void Require(bool reached, const std::string& complaint)
-{
-    if (!reached) {
-        throw TourError(complaint);
-    }
-}
-
-static bool HasReport(HWND dialog)
-{
-    const HWND text = GetDlgItem(dialog, IDC_INFORMATION_TEXT);
-    return text && !TextOf(text).empty();
-}
-
-static bool HasWindowTree(HWND dialog)
-{
-    const HWND tree = GetDlgItem(dialog, IDC_WINDOWS_TREE);
-    return tree && TreeItems(tree).size() > 1;
-}
-
-// Main windows that a user can go to; the home screen is one, with a title or without.
-static int CountOpenPrograms()
-{
-    int count = 0;
-    for (HWND window : TopWindows()) {
-        const LONG exStyle = GetWindowLongW(window, GWL_EXSTYLE);
-        const bool named = GetWindowTextLengthW(window) > 0 || ClassOf(window) == L"DesktopExplorerWindow";
-        if (IsWindowVisible(window) && IsWindowEnabled(window) && !GetWindow(window, GW_OWNER) && named &&
-            !(exStyle & (WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE))) {
-            ++count;
-        }
-    }
-    return count;
-}
 
 // Below the top bar, and as large as the screen allows when the window can be sized: Wine's programs do not
 // know that they are on a handheld.
@@ -60,11 +22,6 @@ static void PlaceAsOnDevice(HWND window)
     const bool sizable = (GetWindowLongW(window, GWL_STYLE) & WS_THICKFRAME) != 0;
     SetWindowPos(window, nullptr, area.left, area.top, area.right - area.left, area.bottom - area.top,
                  SWP_NOZORDER | SWP_NOACTIVATE | (sizable ? 0 : SWP_NOSIZE));
-}
-
-static bool IsThere(HWND)
-{
-    return true;
 }
 
 // The top bar looks at the front window a few times a second; its own text is the title that it shows.
@@ -78,6 +35,13 @@ static bool TopBarIsUpToDate()
     return TextOf(FindWindowW(L"Shell_TrayWnd", nullptr)) == title;
 }
 
+void Require(bool reached, const std::string& complaint)
+{
+    if (!reached) {
+        throw TourError(complaint);
+    }
+}
+
 Tour::Tour(const std::wstring& pictures) : folder(pictures), program(Program::Start()) {}
 
 void Tour::Run()
@@ -85,69 +49,14 @@ void Tour::Run()
     Require(program.WaitForMainWindow() != nullptr, "Quorvane did not show its window");
     Require(WaitFor([&] { return GetForegroundWindow() == program.MainWindow(); }),
             "Quorvane did not come to the front");
-    ShowPages();
-    ShowMenus();
-    ShowReports();
-    ShowRefusedClose();
+    ShowTasks();
+    ShowSysInfo();
+    GoToPage(launcherPage, CMD_SHOW_START);
+    Keep("start");
+    ShowProcs();
     program.Command(CMD_EXIT);
     Require(program.ExitCode(patience) == 0u,
             "Quorvane did not end by its Exit command with the exit code 0");
-}
-
-void Tour::ShowPages()
-{
-    Require(WaitFor([&] { return program.VisiblePage() == tasksPage; }),
-            "the first page is not Running apps");
-    // The page may have been filled before the program's own window was there.
-    const bool complete = WaitFor([&] {
-        Send(program.MainWindow(), WM_COMMAND, CMD_REFRESH);
-        return ListCount(program.List(tasksPage)) == CountOpenPrograms();
-    });
-    Require(complete, "Running apps does not list every open program");
-    Keep("running");
-    GoToPage(sysInfoPage, CMD_SHOW_SYSINFO);
-    Keep("sysinfo");
-    GoToPage(launcherPage, CMD_SHOW_START);
-    Keep("start");
-    GoToPage(procsPage, CMD_SHOW_PROCS);
-    Keep("processes");
-    GoToPage(tasksPage, CMD_SHOW_TASKS);
-}
-
-void Tour::ShowMenus()
-{
-    PressKey(VK_F2);
-    Require(WaitFor([] { return OpenMenu() != nullptr; }), "the soft key Menu opens no menu");
-    Keep("running-menu");
-    CloseMenus();
-
-    const RECT page = ClientRectOnScreen(program.Page(tasksPage));
-    const RECT list = ScreenRectOf(program.List(tasksPage));
-    Require(list.top > page.top, "the page has no band above its list");
-    Tap({(page.left + page.right) / 2, (page.top + list.top) / 2});
-    Require(WaitFor([] { return OpenMenu() != nullptr; }), "a tap on the page's band opens no menu");
-    Keep("header-popup");
-    CloseMenus();
-}
-
-void Tour::ShowReports()
-{
-    SelectRow(tasksPage, 1);
-    ShowDialog(CMD_APPLICATION_INFO, "window-report", HasReport);
-    SelectRow(tasksPage, 1);
-    ShowDialog(CMD_WINDOWS_LIST, "windows-list", HasWindowTree);
-    ShowDialog(CMD_ABOUT, "about", IsThere);
-}
-
-void Tour::ShowRefusedClose()
-{
-    // The home screen lies behind everything else, so it is the last row.
-    SelectRow(tasksPage, ListCount(program.List(tasksPage)) - 1);
-    program.Command(CMD_CLOSE_APPLICATION);
-    Require(WaitFor([&] { return program.Notice() != nullptr; }),
-            "closing the home screen is not refused by a notice");
-    Keep("refused-close");
-    Require(WaitFor([&] { return program.Notice() == nullptr; }), "the notice does not go away");
 }
 
 void Tour::GoToPage(int number, int command)
@@ -179,6 +88,37 @@ void Tour::ShowDialog(int command, const char* picture, const std::function<bool
     PostMessageW(dialog, WM_COMMAND, IDOK, 0);
     Require(WaitFor([&] { return program.Dialog() == nullptr; }),
             std::string("the dialog stays open: ") + picture);
+}
+
+bool HasReport(HWND dialog)
+{
+    const HWND text = GetDlgItem(dialog, IDC_INFORMATION_TEXT);
+    return text && !TextOf(text).empty();
+}
+
+HWND Tour::WaitForBox(const std::wstring& beginning)
+{
+    HWND box = nullptr;
+    const bool shown = WaitFor([&] {
+        box = program.Dialog();
+        return box && BoxText(box).starts_with(beginning);
+    });
+    Require(shown, "no box is shown that begins with: " + std::string(beginning.begin(), beginning.end()));
+    return box;
+}
+
+void Tour::Answer(HWND box, int button)
+{
+    PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
+    Require(WaitFor([=] { return !IsWindow(box); }), "a box stays open");
+}
+
+void Tour::ShowMenu(const char* picture)
+{
+    PressKey(VK_F2);
+    Require(WaitFor([] { return OpenMenu() != nullptr; }), "the soft key Menu opens no menu");
+    Keep(picture);
+    CloseMenus();
 }
 
 void Tour::CloseMenus()

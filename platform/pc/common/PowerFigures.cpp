@@ -5,11 +5,11 @@ namespace handheld {
 
 static constexpr BYTE unknown = 255;
 static constexpr DWORD unknownTime = 0xFFFFFFFF;
-static constexpr BYTE noBattery = 128; // bit of BatteryFlag
+static constexpr BYTE noBattery = 128; // bit of BatteryFlag, also of its "unknown"
 
 static bool HasBattery(const SYSTEM_POWER_STATUS* real)
 {
-    return real && real->BatteryFlag != unknown && (real->BatteryFlag & noBattery) == 0;
+    return real && (real->BatteryFlag & noBattery) == 0;
 }
 
 static void Script(const BatteryScript& script, SYSTEM_POWER_STATUS_EX& status)

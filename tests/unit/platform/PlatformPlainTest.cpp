@@ -46,11 +46,11 @@ TEST_F(PlatformPlainTest, TheRootIsTheSystemsDrive)
     ULARGE_INTEGER realAvailable, realTotal, realFree;
     using Ask = BOOL WINAPI(const wchar_t*, ULARGE_INTEGER*, ULARGE_INTEGER*, ULARGE_INTEGER*);
     ASSERT_TRUE(SystemsOwn<Ask>("GetDiskFreeSpaceExW")(L"C:\\", &realAvailable, &realTotal, &realFree));
-    for (const wchar_t* root : {L"\\", static_cast<const wchar_t*>(nullptr)}) {
+    // From another drive, which has no such folder.
+    for (const wchar_t* path : {L"\\", L"\\windows", static_cast<const wchar_t*>(nullptr)}) {
         total.QuadPart = 0;
-        // From another drive: the root is not the current one's.
         ASSERT_TRUE(SetCurrentDirectoryW(L"Z:\\proc"));
-        const BOOL known = GetDiskFreeSpaceExW(root, &available, &total, &free);
+        const BOOL known = GetDiskFreeSpaceExW(path, &available, &total, &free);
         SetCurrentDirectoryW(L"C:\\");
         ASSERT_TRUE(known);
         EXPECT_EQ(total.QuadPart, realTotal.QuadPart);

@@ -22,7 +22,5 @@ class BareRebuild
   private:
     static BOOL CALLBACK AskWindow(HWND window, LPARAM self);
     void AskTask(HWND window);
-    static void AskProcess(DWORD processId);
-    static DWORD WalkHeaps(DWORD processId);
     void TellList() const;
 };

@@ -19,11 +19,6 @@ CVireoView* BenchApp::FindView(int32_t id)
     return nullptr;
 }
 
-HWND BenchApp::TaskList()
-{
-    return GetDlgItem(Tasks().Window(), IDC_LIST);
-}
-
 bool BenchApp::OnCreate()
 {
     const bool created = CApp::OnCreate();

@@ -2,7 +2,11 @@
 #pragma once
 
 #include "app/CApp.h"
+#include "pages/procs/CViewProcs.h"
+#include "pages/sysinfo/CViewSysInfo.h"
 #include "pages/tasks/CViewTasks.h"
+
+#include "resources/ids.h"
 
 #include <functional>
 
@@ -19,7 +23,9 @@ class BenchApp : public CApp
     int Start();
 
     CViewTasks& Tasks() { return *static_cast<CViewTasks*>(FindView(PageTasks)); }
-    HWND TaskList();
+    CViewSysInfo& SysInfo() { return *static_cast<CViewSysInfo*>(FindView(PageSysInfo)); }
+    CViewProcs& Procs() { return *static_cast<CViewProcs*>(FindView(PageProcs)); }
+    static HWND ListOf(const CListPage& page) { return GetDlgItem(page.Window(), IDC_LIST); }
 
     bool OnCreate() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -1,4 +1,4 @@
-// bench_page.exe: measures the page of the running applications from inside the program.
+// bench_page.exe: measures the pages from inside the program.
 #include "bench/page/Measurements.h"
 #include "rig/Actor.h"
 
@@ -24,6 +24,18 @@ class Crowd
         }
     }
 
+    // False when a program could not be started.
+    bool GrowToPrograms(size_t count)
+    {
+        while (programs.size() < count) {
+            programs.push_back(std::make_unique<rig::Actor>());
+            if (!programs.back()->Ready()) {
+                return false;
+            }
+        }
+        return true;
+    }
+
     // False when a window could not be made.
     bool GrowTo(int count)
     {
@@ -43,8 +55,10 @@ class Crowd
 
 // Once there are more rows than the list can show.
 static constexpr int repaintWindows = 50;
+// With what the session itself has these are somewhat more than a hundred processes.
+static constexpr size_t manyPrograms = 90;
 
-static bool Measure(BenchApp& app, Crowd& crowd)
+static bool MeasureTasks(BenchApp& app, Crowd& crowd)
 {
     for (int count : windowCounts) {
         if (!crowd.GrowTo(count)) {
@@ -55,10 +69,34 @@ static bool Measure(BenchApp& app, Crowd& crowd)
             return false;
         }
         if (count == repaintWindows) {
-            bench::MeasureRepaint(app);
+            bench::MeasureRepaint(app.Tasks(), "row");
         }
     }
     return true;
+}
+
+// Those of the session first, then with many more.
+static bool MeasureProcesses(BenchApp& app, Crowd& crowd)
+{
+    app.ActivateView(PageProcs);
+    if (!bench::MeasureProcesses(app)) {
+        return false;
+    }
+    if (!crowd.GrowToPrograms(manyPrograms)) {
+        std::fputs("bench_page: not all programs could be started\n", stderr);
+        return false;
+    }
+    return bench::MeasureProcesses(app);
+}
+
+static bool Measure(BenchApp& app, Crowd& crowd)
+{
+    if (!MeasureTasks(app, crowd)) {
+        return false;
+    }
+    app.ActivateView(PageSysInfo);
+    bench::MeasureRepaint(app.SysInfo(), "gauge");
+    return MeasureProcesses(app, crowd);
 }
 
 int wmain()

@@ -3,6 +3,8 @@
 
 #include "bench/page/BenchApp.h"
 
+#include <string>
+
 namespace bench {
 
 // How long one row's measurements go on.
@@ -11,8 +13,11 @@ inline constexpr double rowMs = 8000;
 // The rebuild of the running applications, among windows windows of other programs, against the bare calls.
 // False when the two did not list the same number of tasks.
 bool MeasureRebuild(BenchApp& app, int windows);
+// The same of the processes that there are.
+bool MeasureProcesses(BenchApp& app);
 
-// Painting one row's rectangle against painting the list, and how many rows are drawn for each.
-void MeasureRepaint(BenchApp& app);
+// Painting one row's rectangle, the third row's of the shown part, against painting the list, and how many
+// rows are drawn for each. The page is the active one; row: what its rows are called in the table.
+void MeasureRepaint(const CListPage& page, const std::string& row);
 
 } // namespace bench

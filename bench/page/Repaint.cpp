@@ -33,10 +33,10 @@ static int RowsDrawn(HWND page, HWND list, const RECT* rect)
     return rowsDrawn;
 }
 
-void MeasureRepaint(BenchApp& app)
+void MeasureRepaint(const CListPage& shown, const std::string& name)
 {
-    HWND list = app.TaskList();
-    HWND page = app.Tasks().Window();
+    HWND list = BenchApp::ListOf(shown);
+    HWND page = shown.Window();
     Paint(list, nullptr); // nothing that was invalid before counts
     RECT row = {};
     row.left = LVIR_BOUNDS;
@@ -45,8 +45,8 @@ void MeasureRepaint(BenchApp& app)
 
     const int ofRow = RowsDrawn(page, list, &row);
     const int ofList = RowsDrawn(page, list, nullptr);
-    std::printf("Rows drawn for one row's rectangle\t%d\t-\t1\t%s\t%d for the whole list\n", ofRow,
-                ofRow == 1 ? "met" : "missed", ofList);
+    std::printf("Rows drawn for one %s's rectangle\t%d\t-\t1\t%s\t%d for the whole list\n", name.c_str(),
+                ofRow, ofRow == 1 ? "met" : "missed", ofList);
 
     Pairs pairs;
     const Stopwatch whole;
@@ -54,8 +54,8 @@ void MeasureRepaint(BenchApp& app)
         const double one = Paint(list, &row);
         pairs.Add(one, Paint(list, nullptr));
     }
-    Row("Painting one row / the whole list", pairs, noBudget, "%.3f ms / %.3f ms", pairs.Ones().Median(),
-        pairs.Others().Median());
+    Row(("Painting one " + name + " / the whole list").c_str(), pairs, noBudget, "%.3f ms / %.3f ms",
+        pairs.Ones().Median(), pairs.Others().Median());
 }
 
 } // namespace bench

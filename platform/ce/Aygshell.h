@@ -61,6 +61,6 @@ __declspec(dllimport) BOOL WINAPI
     SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info);
 __declspec(dllimport) BOOL WINAPI SHInitDialog(SHINITDLGINFO* info);
 __declspec(dllimport) void WINAPI SHSendBackToFocusWindow(UINT message, WPARAM wParam, LPARAM lParam);
-// By its number, 364: the value of a security policy.
+// By its number, 364: the value of a security policy, 0 of one that is not set.
 __declspec(dllimport) HRESULT WINAPI QueryPolicy(DWORD policyId, DWORD* value);
 }

@@ -8,7 +8,7 @@ struct SYSTEM_POWER_STATUS_EX
 {
     BYTE ACLineStatus; // 0 offline, 1 online, 2 backup power, 255 unknown
     BYTE BatteryFlag;
-    BYTE BatteryLifePercent; // 255: unknown
+    BYTE BatteryLifePercent; // at most 100; 255: unknown
     BYTE Reserved1;
     DWORD BatteryLifeTime; // seconds; 0xFFFFFFFF: unknown
     DWORD BatteryFullLifeTime;
@@ -22,6 +22,6 @@ struct SYSTEM_POWER_STATUS_EX
 // NOLINTEND(readability-identifier-naming)
 
 extern "C" {
-// False where the device has no battery. update: ask the driver, not what it said last.
+// False where the system knows nothing of batteries. update: ask the driver, not what it said last.
 __declspec(dllimport) BOOL WINAPI GetSystemPowerStatusEx(SYSTEM_POWER_STATUS_EX* status, BOOL update);
 }

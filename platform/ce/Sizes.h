@@ -34,6 +34,8 @@ static_assert(offsetof(PROCESSENTRY32, szExeFile) == 36);
 static_assert(offsetof(PROCESSENTRY32, th32MemoryBase) == 556);
 
 static_assert(HasSize<MODULEENTRY32>(1076));
+static_assert(offsetof(MODULEENTRY32, GlblcntUsage) == 12);
+static_assert(offsetof(MODULEENTRY32, ProccntUsage) == 16);
 static_assert(offsetof(MODULEENTRY32, modBaseAddr) == 20);
 static_assert(offsetof(MODULEENTRY32, modBaseSize) == 24);
 static_assert(offsetof(MODULEENTRY32, szModule) == 32);
@@ -78,15 +80,26 @@ static_assert(offsetof(SHELLEXECUTEINFOW, lpParameters) == 20);
 static_assert(offsetof(SHELLEXECUTEINFOW, nShow) == 28);
 
 static_assert(HasSize<MEMORYSTATUS>(32));
+static_assert(offsetof(MEMORYSTATUS, dwMemoryLoad) == 4);
 static_assert(offsetof(MEMORYSTATUS, dwTotalPhys) == 8);
 static_assert(offsetof(MEMORYSTATUS, dwAvailPhys) == 12);
-
 static_assert(offsetof(MEMORYSTATUS, dwTotalPageFile) == 16);
+static_assert(offsetof(MEMORYSTATUS, dwAvailPageFile) == 20);
 static_assert(offsetof(MEMORYSTATUS, dwTotalVirtual) == 24);
+static_assert(offsetof(MEMORYSTATUS, dwAvailVirtual) == 28);
 
 static_assert(HasSize<SYSTEM_POWER_STATUS_EX>(24));
+static_assert(offsetof(SYSTEM_POWER_STATUS_EX, ACLineStatus) == 0);
+static_assert(offsetof(SYSTEM_POWER_STATUS_EX, BatteryLifePercent) == 2);
 static_assert(offsetof(SYSTEM_POWER_STATUS_EX, BatteryLifeTime) == 4);
+static_assert(offsetof(SYSTEM_POWER_STATUS_EX, BatteryFullLifeTime) == 8);
 static_assert(offsetof(SYSTEM_POWER_STATUS_EX, BackupBatteryLifePercent) == 14);
+
+// The library writes it as two words; ours to read as one number.
+static_assert(HasSize<ULARGE_INTEGER>(8));
+static_assert(offsetof(ULARGE_INTEGER, LowPart) == 0);
+static_assert(offsetof(ULARGE_INTEGER, HighPart) == 4);
+static_assert(offsetof(ULARGE_INTEGER, QuadPart) == 0);
 
 static_assert(HasSize<SHFILEINFOW>(692));
 static_assert(offsetof(SHFILEINFOW, iIcon) == 4);

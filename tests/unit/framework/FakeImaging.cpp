@@ -98,6 +98,9 @@ class FakeFactory final : public FakeObject<IImagingFactory>
     {
         fake->bufferRead.assign(static_cast<const char*>(buffer), size);
         fake->disposal = disposal;
+        if (fake->decoding) {
+            fake->decoding();
+        }
         if (SUCCEEDED(fake->createImage)) {
             *image = new FakeImage(const_cast<void*>(buffer));
         }

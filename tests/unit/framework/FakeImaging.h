@@ -3,6 +3,7 @@
 
 #include "platform/ce.h"
 
+#include <functional>
 #include <string>
 
 // The state of the fake that is in force; one test at a time.
@@ -22,6 +23,7 @@ struct FakeImaging
     std::string bufferRead; // what the last image was made from
     BufferDisposalFlag disposal = BufferDisposalFlagNone;
     RECT drawnTo = {};
+    std::function<void()> decoding; // may answer each image differently: bufferRead tells which it is
 
     FakeImaging();
     ~FakeImaging();

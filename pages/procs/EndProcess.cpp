@@ -25,12 +25,18 @@ bool IsProtectedProcess(const CStr& name)
     return false;
 }
 
+// The main window may go while the box is open; then nothing is to be done any more, whatever it answers.
+static bool AnswersYes(HWND owner, const wchar_t* question, const wchar_t* caption)
+{
+    return MessageBoxW(owner, question, caption, MB_YESNO) == IDYES && CVireoApp::Current()->HasMainWindow();
+}
+
 static bool IsConfirmed(HWND owner, const CStr& name)
 {
     CStr question(L"End ");
     question.Append(name);
     question.Append(L"?");
-    return MessageBoxW(owner, question, L"End process", MB_YESNO) == IDYES;
+    return AnswersYes(owner, question, L"End process");
 }
 
 static bool HasTwoTiers()
@@ -68,11 +74,11 @@ static bool IsForceConfirmed(HWND owner)
     MessageBoxW(owner, L"Process does not respond to close message\n\nYou can terminate it.", L"End process",
                 MB_OK);
     return CVireoApp::Current()->HasMainWindow() &&
-           MessageBoxW(owner,
-                       L"WARNING: Terminating a process can cause undesired results including loss of data "
-                       L"and system instability. The process will not be given the chance to save its state "
-                       L"or data. Terminate the process?",
-                       L"Terminate process", MB_YESNO) == IDYES;
+           AnswersYes(owner,
+                      L"WARNING: Terminating a process can cause undesired results including loss of data "
+                      L"and system instability. The process will not be given the chance to save its state "
+                      L"or data. Terminate the process?",
+                      L"Terminate process");
 }
 
 static void Terminate(HANDLE process)

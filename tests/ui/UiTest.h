@@ -1,8 +1,8 @@
 // What every test on real windows starts from: no message, class or event is left from the test before.
 #pragma once
 
+#include "tests/support/Spy.h"
 #include "tests/ui/Events.h"
-#include "tests/ui/Spy.h"
 #include "tests/ui/TestApp.h"
 
 #include <gtest/gtest.h>

@@ -71,6 +71,17 @@ TEST_F(PageActivationTest, TheFirstRowIsSelectedInAFreshColumn)
     });
 }
 
+TEST_F(PageActivationTest, AfterAnotherRowTheFirstProcessIsSelectedInAFreshColumn)
+{
+    InProgram([](ProgramApp& app) {
+        app.ActivateView(4);
+        SendMessageW(GetDlgItem(app.ActiveView()->Window(), IDC_LIST), WM_KEYDOWN, VK_END, 1);
+        EXPECT_EQ(StepsOfShowing(app, 4),
+                  (Events{"filled", "column goes", "column comes", "focus on the list", "state of row 0",
+                          "mark 0", "row in view 0", "list painted", "page painted"}));
+    });
+}
+
 TEST_F(PageActivationTest, AnEmptyPageHasItsFreshColumnAndTheFocusToo)
 {
     InProgram([](ProgramApp& app) {

@@ -3,90 +3,20 @@
 #include "framework/Gdi.h"
 #include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
-
-static int S(int n, int index)
-{
-    HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, index);
-    ReleaseDC(nullptr, screen);
-    return (n * dpi + 48) / 96;
-}
-
-static int SX(int n)
-{
-    return S(n, LOGPIXELSX);
-}
-
-struct DrawnText
-{
-    std::wstring text;
-    RECT rect;
-    UINT flags;
-    HGDIOBJ font;
-    COLORREF colour;
-    int mode;
-};
+#include "tests/ui/pages/RowDrawing.h"
 
 class CViewTasksPaintTest : public ProgramTest
 {
   protected:
-    std::vector<DrawnText> texts;
-    const RECT row = {2, 40, 202, 40 + 50};
+    static constexpr RECT row = RowDrawing::row;
+    std::vector<DrawnText> texts; // of the last row
 
     // Draws the first row into a bitmap of its own.
     void Draw(ProgramApp& app, UINT state, const std::function<void(HDC)>& check = nullptr)
     {
-        SPY(DrawTextW) draw;
-        draw.instead = [&](HDC dc, const wchar_t* text, int length, RECT* rect, UINT flags) {
-            EXPECT_EQ(length, -1);
-            texts.push_back(
-                {text, *rect, flags, GetCurrentObject(dc, OBJ_FONT), GetTextColor(dc), GetBkMode(dc)});
-            return draw.Real(dc, text, length, rect, flags);
-        };
-        texts.clear();
-        HDC screen = GetDC(nullptr);
-        HDC target = CreateCompatibleDC(screen);
-        HBITMAP bitmap = CreateCompatibleBitmap(screen, 300, 100);
-        HGDIOBJ previous = SelectObject(target, bitmap);
-        const RECT all = {0, 0, 300, 100};
-        FillRect(target, &all, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
-        SetTextColor(target, RGB(1, 2, 3));
-        SetBkColor(target, RGB(4, 5, 6));
-        SetBkMode(target, OPAQUE);
-        HGDIOBJ font = GetCurrentObject(target, OBJ_FONT);
-
-        DRAWITEMSTRUCT item = {};
-        item.CtlType = 102;
-        item.CtlID = IDC_LIST;
-        item.itemState = state;
-        item.hwndItem = app.TaskList();
-        item.hDC = target;
-        item.rcItem = row;
-        EXPECT_EQ(SendMessageW(app.Tasks().Window(), WM_DRAWITEM, IDC_LIST, reinterpret_cast<LPARAM>(&item)),
-                  TRUE);
-
-        EXPECT_EQ(GetTextColor(target), RGB(1, 2, 3));
-        EXPECT_EQ(GetBkColor(target), RGB(4, 5, 6));
-        EXPECT_EQ(GetCurrentObject(target, OBJ_FONT), font);
-        if (check) {
-            check(target);
-        }
-        SelectObject(target, previous);
-        DeleteObject(bitmap);
-        DeleteDC(target);
-        ReleaseDC(nullptr, screen);
-    }
-
-    static int WidthOf(HFONT font, const std::wstring& text)
-    {
-        HDC screen = GetDC(nullptr);
-        HGDIOBJ previous = SelectObject(screen, font);
-        SIZE size = {};
-        GetTextExtentExPointW(screen, text.c_str(), static_cast<int>(text.size()), 0, nullptr, nullptr,
-                              &size);
-        SelectObject(screen, previous);
-        ReleaseDC(nullptr, screen);
-        return size.cx;
+        RowDrawing drawing(app.Tasks().Window(), app.TaskList());
+        drawing.Draw(state, check);
+        texts = drawing.texts;
     }
 };
 
@@ -97,14 +27,14 @@ TEST_F(CViewTasksPaintTest, ARowIsItsHeapSizeInTheNormalFontAndItsNameInTheBold)
         const_cast<STaskInfo&>(app.Tasks().Task(0)).heapBytes = 1536;
         Draw(app, 0);
         ASSERT_EQ(texts.size(), 2u);
-        const LONG left = row.left + SX(8) + app.Tasks().Look().Icons().width;
+        const LONG left = row.left + ScaledX(8) + app.Tasks().Look().Icons().width;
         EXPECT_EQ(texts[0].text, L"1.50 KB");
         EXPECT_EQ(texts[0].flags, 0x8026u);
         EXPECT_EQ(texts[0].rect, (RECT{left, row.top, row.right, row.bottom}));
         EXPECT_EQ(texts[0].font, app.Tasks().Look().NormalFont());
         EXPECT_EQ(texts[1].text, L"100% & \"Notes\" Проводник");
         EXPECT_EQ(texts[1].flags, 0x8024u);
-        const LONG right = row.right - WidthOf(app.Tasks().Look().NormalFont(), L"1.50 KB") - SX(2);
+        const LONG right = row.right - WidthOf(app.Tasks().Look().NormalFont(), L"1.50 KB") - ScaledX(2);
         EXPECT_EQ(texts[1].rect, (RECT{left, row.top, right, row.bottom}));
         EXPECT_EQ(texts[1].font, app.Tasks().Look().BoldFont());
         for (const DrawnText& each : texts) {
@@ -162,7 +92,7 @@ TEST_F(CViewTasksPaintTest, TheListsIconIsInTheMiddleOfTheRow)
         const auto& [list, index, dc, x, y, style] = image.calls[0];
         EXPECT_EQ(list, app.Tasks().Look().Icons().list);
         EXPECT_EQ(index, app.Tasks().Task(0).iconIndex);
-        EXPECT_EQ(x, row.left + SX(4));
+        EXPECT_EQ(x, row.left + ScaledX(4));
         EXPECT_EQ(y, row.top + (50 - app.Tasks().Look().Icons().height) / 2);
         EXPECT_EQ(style, static_cast<UINT>(ILD_NORMAL));
         EXPECT_NE(dc, nullptr);
@@ -180,7 +110,7 @@ TEST_F(CViewTasksPaintTest, ARecordsOwnIconIsDrawnInItsPlace)
         Draw(app, 0);
         EXPECT_TRUE(image.calls.empty());
         ASSERT_EQ(drawIcon.calls.size(), 1u);
-        EXPECT_EQ(std::get<1>(drawIcon.calls[0]), row.left + SX(4));
+        EXPECT_EQ(std::get<1>(drawIcon.calls[0]), row.left + ScaledX(4));
         EXPECT_EQ(std::get<2>(drawIcon.calls[0]), row.top + (50 - app.Tasks().Look().Icons().height) / 2);
         EXPECT_EQ(std::get<3>(drawIcon.calls[0]), icon);
         EXPECT_EQ(std::get<8>(drawIcon.calls[0]), static_cast<UINT>(DI_NORMAL));
@@ -229,7 +159,7 @@ TEST_F(CViewTasksPaintTest, TheTitleStandsBetweenTheArrows)
         UpdateWindow(page);
         ASSERT_EQ(drawn.size(), 1u);
         const int height = app.Tasks().HeaderHeight();
-        const int inset = SX(6) + height / 2;
+        const int inset = ScaledX(6) + height / 2;
         EXPECT_EQ(drawn[0].text, L"Running applications");
         EXPECT_EQ(drawn[0].flags, 0x8024u);
         EXPECT_EQ(drawn[0].rect, (RECT{inset, 0, ClientSize(page).cx - inset, height}));

@@ -46,6 +46,7 @@ HWND Actor::Make(const ActorWindowSpec& spec) const
     order.delay = spec.delay;
     order.colour = spec.colour;
     order.endsActor = spec.endsActor;
+    order.exitCode = spec.exitCode;
     return reinterpret_cast<HWND>(Order(control, actor::MakeWindow, &order, sizeof(order)));
 }
 
@@ -57,6 +58,16 @@ void Actor::Vanish(HWND window) const
 void Actor::Focus(HWND window) const
 {
     Order(control, actor::FocusWindow, &window, sizeof(window));
+}
+
+void Actor::StartThreads(DWORD count) const
+{
+    Order(control, actor::StartThreads, &count, sizeof(count));
+}
+
+void Actor::Leave(DWORD exitCode) const
+{
+    Order(control, actor::EndProcess, &exitCode, sizeof(exitCode));
 }
 
 int CloseCount(HWND window)

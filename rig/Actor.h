@@ -21,6 +21,7 @@ struct ActorWindowSpec
     DWORD delay = 0; // ms
     COLORREF colour = RGB(0, 128, 0);
     bool endsActor = false;
+    DWORD exitCode = 0;
 };
 
 class Actor
@@ -43,6 +44,14 @@ class Actor
     void Vanish(HWND window) const;
     // The window's own program gives it the focus.
     void Focus(HWND window) const;
+    // Threads that only wait.
+    void StartThreads(DWORD count) const;
+    // The process ends by itself, soon after this.
+    void Leave(DWORD exitCode = 0) const;
+    std::optional<DWORD> ExitCode(std::chrono::milliseconds timeout = std::chrono::milliseconds(0)) const
+    {
+        return process.ExitCode(timeout);
+    }
     // Ends the process without asking.
     void Kill() { process.Terminate(); }
 };

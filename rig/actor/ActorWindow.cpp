@@ -47,7 +47,7 @@ LRESULT CALLBACK ActorWindow::Procedure(HWND window, UINT message, WPARAM wParam
     if (message == WM_NCDESTROY) {
         SetWindowLongPtrW(window, GWLP_USERDATA, 0);
         if (self->order.endsActor) {
-            PostQuitMessage(0);
+            PostQuitMessage(static_cast<int>(self->order.exitCode));
         }
         delete self;
         return DefWindowProcW(window, message, wParam, lParam);

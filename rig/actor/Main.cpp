@@ -1,6 +1,24 @@
 // actor.exe: a program whose windows look and behave as a test orders.
 #include "rig/actor/ActorWindow.h"
 
+static DWORD WINAPI DoNothing(void*)
+{
+    Sleep(INFINITE);
+    return 0;
+}
+
+static LRESULT StartThreads(DWORD count)
+{
+    for (DWORD i = 0; i < count; i++) {
+        const HANDLE thread = CreateThread(nullptr, 0, DoNothing, nullptr, 0, nullptr);
+        if (!thread) {
+            return FALSE;
+        }
+        CloseHandle(thread);
+    }
+    return TRUE;
+}
+
 static LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message != WM_COPYDATA) {
@@ -17,6 +35,13 @@ static LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LP
     }
     if (data->dwData == actor::FocusWindow && data->cbData == sizeof(HWND)) {
         return SetFocus(*static_cast<HWND*>(data->lpData)) != nullptr;
+    }
+    if (data->dwData == actor::StartThreads && data->cbData == sizeof(DWORD)) {
+        return StartThreads(*static_cast<DWORD*>(data->lpData));
+    }
+    if (data->dwData == actor::EndProcess && data->cbData == sizeof(DWORD)) {
+        PostQuitMessage(static_cast<int>(*static_cast<DWORD*>(data->lpData)));
+        return TRUE;
     }
     return FALSE;
 }

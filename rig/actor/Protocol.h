@@ -14,7 +14,9 @@ enum Order : ULONG_PTR
 {
     MakeWindow = 1,   // a WindowOrder; the answer is the window, or 0
     VanishWindow = 2, // an HWND: destroyed at once, without a WM_CLOSE
-    FocusWindow = 3   // an HWND: gets the focus of its thread
+    FocusWindow = 3,  // an HWND: gets the focus of its thread
+    StartThreads = 4, // a DWORD: so many threads more, which do nothing
+    EndProcess = 5    // a DWORD: the process ends with this exit code
 };
 
 // What a window does with WM_CLOSE.
@@ -38,6 +40,7 @@ struct WindowOrder
     DWORD delay;     // ms, of Closing::Delay
     COLORREF colour; // of the client area
     BOOL endsActor;  // the process ends with this window
+    DWORD exitCode;  // of that end
 };
 
 // Answered by the actor's windows; registered by RegisterWindowMessageW.

@@ -4,11 +4,7 @@
 
 #include "resources/ids.h"
 #include "rig/Actor.h"
-#include "rig/Program.h"
-
-#include <gtest/gtest.h>
-
-#include <optional>
+#include "tests/e2e/PageScreen.h"
 
 inline constexpr int commandPreviousPage = CMD_PREVIOUS_PAGE;
 inline constexpr int commandNextPage = CMD_NEXT_PAGE;
@@ -21,52 +17,24 @@ inline constexpr int commandSwitch = CMD_SWITCH_TO_APPLICATION;
 inline constexpr int commandWindowInfo = CMD_WINDOW_INFO;
 inline constexpr int commandCloseAll = CMD_CLOSE_ALL;
 
-class TasksScreen : public testing::Test
+class TasksScreen : public PageScreen
 {
   protected:
-    // One program for all tests of a suite; a test that ends it gets the next one a new one.
-    static std::optional<rig::Program> program;
-    HWND list = nullptr;
+    TasksScreen() : PageScreen(1, commandShowTasks) {}
 
-    static void TearDownTestSuite() { program.reset(); }
-    void SetUp() override;
-    void TearDown() override;
-
-    static HWND Main() { return program->MainWindow(); }
-    // The handheld's home screen, a task of its own.
-    static HWND Today();
-
-    // The program in front, with a fresh list.
-    void Front() const;
     // The windows, in this order from the front, with the program before them.
     void FrontBefore(const std::vector<HWND>& windows) const;
-    // No refresh comes by itself for some seconds: the one that follows the program's start is over, and the
-    // periodic one has just begun its interval.
-    void FrontWithoutRefreshes() const;
 
-    // Moves the selection by keys; the program is in front.
-    void Select(int row) const;
     // Finds the row of a task and selects it.
     void SelectTask(HWND window) const;
     // The report on the selected task, after which the dialog is closed again.
-    std::wstring Report() const;
+    std::wstring Report() const { return ReportBy(commandInfo); }
     // The window that a report is about.
     static HWND ReportedWindow(const std::wstring& report);
     HWND SelectedTask() const { return ReportedWindow(Report()); }
     // The windows of all rows from the top.
     std::vector<HWND> Rows() const;
     std::wstring ReportOn(HWND task) const;
-
-    // Gives a command and waits until it is carried out.
-    void Do(int command) const;
-    static bool CloseDialog(HWND dialog, int command = IDOK);
-    static HWND WaitForNotice();
-    static void HideNotice();
-
-  private:
-    static DWORD startedAt;
-    static void Start();
-    static bool IsReady();
 };
 
 // What it takes to be a task of its own.

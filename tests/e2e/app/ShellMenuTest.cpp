@@ -1,6 +1,7 @@
 // The menu behind the right soft key: its lines, its submenus by keys and by taps.
 #include "resources/ids.h"
 #include "rig/MenuTwin.h"
+#include "tests/e2e/ProgramMenu.h"
 #include "tests/e2e/ShellSession.h"
 
 using namespace rig;
@@ -25,43 +26,6 @@ static constexpr size_t viewLine = 10;
 
 static const std::vector<MenuLine> viewMenu = {
     {L"Runnig apps"}, {L"Start"}, {L"System info"}, {L"Processes"}};
-
-namespace {
-
-struct ResourceLine
-{
-    UINT id; // of a line that opens a menu: -1
-    std::wstring text;
-    bool operator==(const ResourceLine&) const = default;
-};
-
-} // namespace
-
-static std::vector<ResourceLine> LinesOf(HMENU menu)
-{
-    std::vector<ResourceLine> lines;
-    for (int i = 0; i < GetMenuItemCount(menu); i++) {
-        wchar_t text[100] = {};
-        GetMenuStringW(menu, static_cast<UINT>(i), text, 100, MF_BYPOSITION);
-        lines.push_back({GetMenuItemID(menu, i), text});
-    }
-    return lines;
-}
-
-namespace {
-
-// The program's file, to look its menus up in.
-class ProgramFile
-{
-    HMODULE module =
-        LoadLibraryExW((ProgramFolder() + L"\\Quorvane.exe").c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-
-  public:
-    ~ProgramFile() { FreeLibrary(module); }
-    HMENU Menu(int id) const { return LoadMenuW(module, MAKEINTRESOURCEW(id)); }
-};
-
-} // namespace
 
 class ShellMenuTest : public ShellSession
 {
@@ -113,26 +77,22 @@ TEST_F(ShellMenuTest, TheFirstPagesMenuLooksAsItShould)
 
 TEST_F(ShellMenuTest, EveryPagesMenuEndsTheSame)
 {
-    const ProgramFile file;
-    const std::vector<ResourceLine> tail = {{0, L""}, {UINT(-1), L"View"}, {0, L""}, {UINT(-1), L"More"},
-                                            {0, L""}, {CMD_EXIT, L"Exit"}};
+    const std::vector<MenuItem> tail = {{0, L""},      {-1, L"View"}, {0, L""},
+                                        {-1, L"More"}, {0, L""},      {CMD_EXIT, L"Exit"}};
+    const std::vector<MenuItem> view = {{CMD_SHOW_TASKS, L"Runnig apps"},
+                                        {CMD_SHOW_START, L"Start"},
+                                        {CMD_SHOW_SYSINFO, L"System info"},
+                                        {CMD_SHOW_PROCS, L"Processes"}};
+    const std::vector<MenuItem> more = {
+        {CMD_HARDWARE_KEYS, L"Hardware keys"}, {0, L""}, {CMD_ABOUT, L"About"}};
     for (int id : {134, 102, 136, 132}) {
-        const HMENU whole = file.Menu(id);
-        ASSERT_TRUE(whole) << id;
-        const HMENU menu = GetSubMenu(whole, 0);
-        const auto lines = LinesOf(menu);
-        ASSERT_GT(lines.size(), tail.size()) << id;
-        EXPECT_TRUE(std::equal(tail.begin(), tail.end(), lines.end() - static_cast<int>(tail.size()))) << id;
-        const int count = static_cast<int>(lines.size());
-        const std::vector<ResourceLine> view = {{CMD_SHOW_TASKS, L"Runnig apps"},
-                                                {CMD_SHOW_START, L"Start"},
-                                                {CMD_SHOW_SYSINFO, L"System info"},
-                                                {CMD_SHOW_PROCS, L"Processes"}};
-        EXPECT_EQ(view, LinesOf(GetSubMenu(menu, count - 5))) << id;
-        const std::vector<ResourceLine> more = {
-            {CMD_HARDWARE_KEYS, L"Hardware keys"}, {0, L""}, {CMD_ABOUT, L"About"}};
-        EXPECT_EQ(more, LinesOf(GetSubMenu(menu, count - 3))) << id;
-        DestroyMenu(whole);
+        const ProgramMenu menu(id);
+        const auto items = menu.Items();
+        ASSERT_GT(items.size(), tail.size()) << id;
+        EXPECT_TRUE(std::equal(tail.begin(), tail.end(), items.end() - static_cast<int>(tail.size()))) << id;
+        const int count = static_cast<int>(items.size());
+        EXPECT_EQ(view, menu.Items(count - 5)) << id;
+        EXPECT_EQ(more, menu.Items(count - 3)) << id;
     }
 }
 

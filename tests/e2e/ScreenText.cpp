@@ -7,7 +7,7 @@ using rig::Picture;
 
 static constexpr int widthAt96 = 240;
 static constexpr int points = 9;
-static constexpr UINT rowText = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
+static constexpr UINT rowText = DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS;
 
 static bool HasFace(const wchar_t* face)
 {
@@ -103,9 +103,10 @@ Picture ScreenFont::Draw(SIZE picture, COLORREF background, COLORREF colour, con
     });
 }
 
-bool RowShowsName(HWND list, int row, const std::wstring& name, std::chrono::milliseconds timeout)
+// A text on a part of a row. The part, and where the text is laid out in it, are in pixels of the row.
+static bool RowShows(HWND list, int row, const std::wstring& text, const ScreenFont& font, UINT format,
+                     const std::function<RECT(int width)>& part, std::chrono::milliseconds timeout)
 {
-    const ScreenFont bold(FW_BOLD, 0);
     return rig::WaitFor(
         [&] {
             const auto bounds = rig::ListRowOnScreen(list, row);
@@ -113,17 +114,44 @@ bool RowShowsName(HWND list, int row, const std::wstring& name, std::chrono::mil
                 return false;
             }
             const bool selected = rig::ListMark(list) == row;
-            const int left = bounds->left + OnScreen(8) + OnScreen(16);
-            // A separator line is below each row, and the heap figure to the right of the name.
-            const SIZE size = {bold.SizeOf(name).cx + OnScreen(8),
-                               bounds->bottom - bounds->top - OnScreen(1)};
-            const Picture expected =
-                bold.Draw(size, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW),
-                          GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT), name,
-                          {0, 0, size.cx + OnScreen(100), bounds->bottom - bounds->top}, rowText);
-            return Picture::OfScreen({left, bounds->top, left + size.cx, bounds->top + size.cy}) == expected;
+            const RECT place = part(bounds->right - bounds->left);
+            // A separator line is below each row.
+            const SIZE size = {place.right - place.left, bounds->bottom - bounds->top - OnScreen(1)};
+            const Picture expected = font.Draw(
+                size, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW),
+                GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT), text,
+                {0, 0, size.cx + (format & DT_RIGHT ? 0 : OnScreen(100)), bounds->bottom - bounds->top},
+                format);
+            return Picture::OfScreen({bounds->left + place.left, bounds->top, bounds->left + place.right,
+                                      bounds->top + size.cy}) == expected;
         },
         timeout);
+}
+
+bool RowShowsName(HWND list, int row, const std::wstring& name, const ScreenFont& font,
+                  std::chrono::milliseconds timeout)
+{
+    const auto part = [&](int) {
+        const LONG left = OnScreen(8) + OnScreen(16);
+        // Not up to the heap figure to the right of the name.
+        return RECT{left, 0, left + font.SizeOf(name).cx + OnScreen(8), 0};
+    };
+    return RowShows(list, row, name, font, rowText | DT_LEFT, part, timeout);
+}
+
+bool RowShowsName(HWND list, int row, const std::wstring& name, std::chrono::milliseconds timeout)
+{
+    return RowShowsName(list, row, name, ScreenFont(FW_BOLD, 0), timeout);
+}
+
+bool RowShowsSize(HWND list, int row, const std::wstring& size, const ScreenFont& font, int rightMargin,
+                  std::chrono::milliseconds timeout)
+{
+    const auto part = [&](int width) {
+        const LONG right = width - OnScreen(rightMargin);
+        return RECT{right - font.SizeOf(size).cx - OnScreen(2), 0, right, 0};
+    };
+    return RowShows(list, row, size, font, rowText | DT_RIGHT, part, timeout);
 }
 
 bool NoticeSays(HWND mainWindow, HWND notice, const std::wstring& text)

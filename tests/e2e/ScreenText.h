@@ -36,5 +36,12 @@ class ScreenFont
 bool RowShowsName(HWND list, int row, const std::wstring& name,
                   std::chrono::milliseconds timeout = rig::patience);
 
+// The same in another font than the first page's.
+bool RowShowsName(HWND list, int row, const std::wstring& name, const ScreenFont& font,
+                  std::chrono::milliseconds timeout = rig::patience);
+// Waits until a size, or any text, stands at the right end of a row, as far as that page leaves it.
+bool RowShowsSize(HWND list, int row, const std::wstring& size, const ScreenFont& font, int rightMargin,
+                  std::chrono::milliseconds timeout = rig::patience);
+
 // Waits until the timed notice is shown with this text.
 bool NoticeSays(HWND mainWindow, HWND notice, const std::wstring& text);

@@ -6,6 +6,8 @@
 #include "rig/Input.h"
 #include "rig/WaitFor.h"
 
+#include <deque>
+
 using namespace rig;
 
 class ProcsEndRaceTest : public ProcsScreen
@@ -68,29 +70,32 @@ TEST_F(ProcsEndRaceTest, GoneByItselfDuringTheWait)
     EXPECT_FALSE(program->Notice());
 }
 
-// The row is another's by the time of the answer.
+// The victim's row is another's by the time of each answer.
 TEST_F(ProcsEndRaceTest, TheRowsMoveUnderEachBox)
 {
-    std::optional<Actor> above(std::in_place);
-    std::optional<Actor> above2(std::in_place);
+    std::deque<Actor> above(3);
     const Actor victim(ActorNamed(L"victim.exe"));
-    const Actor below(ActorNamed(L"below.exe"));
-    const Actor below2(ActorNamed(L"below2.exe"));
-    ASSERT_TRUE(below2.Ready());
+    const std::deque<Actor> below(3);
+    ASSERT_TRUE(below.back().Ready());
+    const auto removeAbove = [&] {
+        above.pop_front();
+        RefreshExactly();
+    };
     Front();
-    Answer(AskToEnd(victim.Process(), L"victim.exe"), yesKey);
-    HWND box = WaitForNoAnswerBox();
-    above.reset();
-    RefreshExactly();
+    HWND box = AskToEnd(victim.Process(), L"victim.exe");
+    removeAbove();
+    Answer(box, yesKey);
+    box = WaitForNoAnswerBox();
+    removeAbove();
     Answer(box, VK_RETURN);
     box = WaitForWarningBox();
-    above2.reset();
-    RefreshExactly();
+    removeAbove();
     Answer(box, yesKey);
     EXPECT_EQ(0u, victim.ExitCode(patience).value_or(99));
     EXPECT_TRUE(WaitFor([&] { return ListCount(list) == static_cast<int>(Processes().size()); }));
     EXPECT_TRUE(actor->Running());
-    EXPECT_TRUE(below.Running());
-    EXPECT_TRUE(below2.Running());
+    for (const Actor& each : below) {
+        EXPECT_TRUE(each.Running());
+    }
     ExpectUsable();
 }

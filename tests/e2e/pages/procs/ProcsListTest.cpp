@@ -1,5 +1,5 @@
 // The rows of the page of processes.
-// profiles: pocketpc pocketpc-vga smartphone
+// profiles: pocketpc pocketpc-vga
 #include "tests/e2e/ProcsScreen.h"
 #include "tests/e2e/ScreenText.h"
 

@@ -1,5 +1,4 @@
 // Programs that the page does not end: the system's by their names, the program itself, and the handheld.
-// profiles: pocketpc smartphone
 #include "tests/e2e/ProcsScreen.h"
 #include "tests/e2e/ScreenText.h"
 

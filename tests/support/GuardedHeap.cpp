@@ -22,8 +22,8 @@ static const uint8_t slackByte = 0xFD;
 static const uint8_t freshByte = 0xCD; // so that reading before writing shows
 
 // Freed regions stay reserved for a while, so that their addresses stay invalid; then the oldest is given
-// back.
-static const size_t quarantineSize = 1 << 15;
+// back. Each takes two of the 65530 mappings that Linux lets a process have.
+static const size_t quarantineSize = 1 << 14;
 static void* quarantine[quarantineSize];
 static size_t quarantineNext;
 static SRWLOCK quarantineLock = SRWLOCK_INIT;

@@ -1,14 +1,12 @@
 // What a long life of the program leaves behind: nothing.
 #include "resources/ids.h"
 #include "tests/support/ObjectCounts.h"
+#include "tests/ui/LeakCheck.h"
 #include "tests/ui/ProgramTest.h"
 
 class ProgramLeaksTest : public ProgramTest
 {
   protected:
-    // The system's caches may take or give this many blocks; anything leaked each time is far more.
-    static constexpr size_t cacheSlack = 40;
-
     void Forget()
     {
         enumWindows.calls.clear();
@@ -16,24 +14,10 @@ class ProgramLeaksTest : public ProgramTest
         registerClass.calls.clear();
     }
 
-    // Runs the step a few times to warm up, then so many times.
     void ExpectNothingLeft(int times, const std::function<void()>& step, size_t keptBySystem = 0)
     {
-        for (int i = 0; i < 10; i++) {
-            step();
-        }
-        Forget();
-        const ObjectCounts before = ObjectCounts::Now();
-        for (int i = 0; i < times; i++) {
-            step();
-            Forget();
-        }
-        const ObjectCounts after = ObjectCounts::Now();
-        EXPECT_TRUE(after.SameObjects(before))
-            << testing::PrintToString(before) << "\nafter: " << testing::PrintToString(after);
-        EXPECT_EQ(after.programBlocks, before.programBlocks);
-        EXPECT_LE(after.heapBlocks,
-                  before.heapBlocks + cacheSlack + keptBySystem * static_cast<size_t>(times));
+        ::ExpectNothingLeft(
+            times, step, [this] { Forget(); }, keptBySystem);
     }
 };
 

@@ -100,13 +100,18 @@ void ShellSession::MenuKeys(WORD key, int times) const
     PressKey(key, times);
 }
 
-HWND ShellSession::OpenReport() const
+HWND ShellSession::OpenReport(int command) const
 {
-    program->Command(ApplicationInfoCommand);
+    program->Command(command);
     return WaitFor([&] {
         const HWND dialog = program->Dialog();
         return dialog && GetDlgItem(dialog, IDC_INFORMATION_TEXT) ? dialog : nullptr;
     });
+}
+
+std::wstring ShellSession::ReportText(HWND dialog)
+{
+    return TextOf(GetDlgItem(dialog, IDC_INFORMATION_TEXT));
 }
 
 HWND ShellSession::OpenWindowsList() const

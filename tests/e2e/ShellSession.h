@@ -36,6 +36,8 @@ enum Command : int
     ApplicationInfoCommand = CMD_APPLICATION_INFO,
     ShowStartCommand = CMD_SHOW_START,
     SettingsCommand = CMD_SETTINGS,
+    MemoryInfoCommand = CMD_MEMORY_INFORMATION,
+    BatteryInfoCommand = CMD_BATTERY_INFORMATION,
     WindowInfoCommand = CMD_WINDOW_INFO // of the Windows list
 };
 
@@ -74,8 +76,10 @@ class ShellSession : public testing::Test
 
     // The soft-key menu, opened by its key. Null when it does not open.
     HWND PressMenuKey() const;
-    // The report on the program's own window, and the list of its windows. Null when they do not open.
-    HWND OpenReport() const;
+    // The report that a command shows, such as the one on the program's own window, and the list of windows.
+    // Null when they do not open.
+    HWND OpenReport(int command = ApplicationInfoCommand) const;
+    static std::wstring ReportText(HWND dialog);
     HWND OpenWindowsList() const;
     // A key of the open menu; not sent when there is none, for it would reach the page.
     void MenuKeys(WORD key, int times = 1) const;

@@ -1,69 +1,11 @@
 // The picture file: a spoilt one ends the start with a report, an incomplete one does not.
 #include "rig/ProgramCopy.h"
+#include "tests/e2e/PictureFile.h"
 #include "tests/e2e/ShellSession.h"
 
-#include <cstdio>
-#include <filesystem>
 #include <regex>
 
 using namespace rig;
-
-namespace {
-
-using Bytes = std::vector<unsigned char>;
-
-} // namespace
-
-static void Append32(Bytes& bytes, uint32_t value)
-{
-    for (int shift = 0; shift < 32; shift += 8) {
-        bytes.push_back(static_cast<unsigned char>(value >> shift));
-    }
-}
-
-// A picture file's head: magic, version, three words, the number of entries.
-static Bytes Head(uint32_t count, uint32_t version = 1)
-{
-    Bytes bytes = {'Q', 'V', '_', 'Z', 'R', 'S', 0};
-    Append32(bytes, version);
-    for (uint32_t word : {0xFFFFFFFFu, 0u, 7u}) {
-        Append32(bytes, word);
-    }
-    Append32(bytes, count);
-    return bytes;
-}
-
-namespace {
-
-struct Entry
-{
-    uint32_t id, offset, size;
-};
-
-} // namespace
-
-static Bytes WithEntries(const std::vector<Entry>& entries)
-{
-    Bytes bytes = Head(static_cast<uint32_t>(entries.size()));
-    for (const Entry& entry : entries) {
-        for (uint32_t value : {entry.id, entry.offset, entry.size, 0xFFFFFFFFu, 0u}) {
-            Append32(bytes, value);
-        }
-    }
-    return bytes;
-}
-
-static bool Write(const std::wstring& path, const Bytes& bytes)
-{
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    DWORD written = 0;
-    const bool whole =
-        file != INVALID_HANDLE_VALUE &&
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE &&
-        written == bytes.size();
-    CloseHandle(file);
-    return whole;
-}
 
 class FaultContainerTest : public ShellSession
 {
@@ -74,16 +16,7 @@ class FaultContainerTest : public ShellSession
 
     std::wstring Pictures() const { return copy.Path(L"Quorvane.zrs"); }
 
-    Bytes GoodFile() const
-    {
-        const HANDLE file =
-            CreateFileW(Pictures().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-        Bytes bytes(GetFileSize(file, nullptr));
-        DWORD read = 0;
-        EXPECT_TRUE(ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr));
-        CloseHandle(file);
-        return bytes;
-    }
+    Bytes GoodFile() const { return ReadBytes(Pictures()); }
 
     void ExpectFatal()
     {
@@ -103,13 +36,13 @@ class FaultContainerTest : public ShellSession
 
     void ExpectFatal(const Bytes& bytes)
     {
-        ASSERT_TRUE(Write(Pictures(), bytes));
+        ASSERT_TRUE(WriteBytes(Pictures(), bytes));
         ExpectFatal();
     }
 
     void ExpectNormalStart(const Bytes& bytes)
     {
-        ASSERT_TRUE(Write(Pictures(), bytes));
+        ASSERT_TRUE(WriteBytes(Pictures(), bytes));
         Launch(L"", copy.Folder());
         ASSERT_TRUE(main);
         ASSERT_TRUE(InFront(main));
@@ -157,7 +90,7 @@ TEST_F(FaultContainerTest, AnEmptyFile)
 
 TEST_F(FaultContainerTest, AFileCutOffInItsHead)
 {
-    Bytes head = Head(0);
+    Bytes head = PictureFileHead(0);
     ASSERT_EQ(27u, head.size());
     for (size_t length : {6u, 7u, 10u, 26u}) {
         SCOPED_TRACE(length);
@@ -189,7 +122,7 @@ TEST_F(FaultContainerTest, AWrongVersion)
 {
     for (uint32_t version : {0u, 2u, 0x01000000u, 0xFFFFFFFFu}) {
         SCOPED_TRACE(version);
-        ExpectFatal(Head(0, version));
+        ExpectFatal(PictureFileHead(0, version));
     }
 }
 
@@ -198,7 +131,7 @@ TEST_F(FaultContainerTest, MoreEntriesThanTheFileHas)
     // The third and fourth are 4 and 0 bytes of directory to who multiplies in 32 bits.
     for (uint32_t count : {1u, 0xFFFFFFFFu, 0x0CCCCCCDu, 0x40000000u, 0x7FFFFFFFu, 0x80000000u}) {
         SCOPED_TRACE(count);
-        Bytes bytes = Head(count);
+        Bytes bytes = PictureFileHead(count);
         bytes.resize(bytes.size() + 19, 0);
         ExpectFatal(bytes);
     }
@@ -206,44 +139,44 @@ TEST_F(FaultContainerTest, MoreEntriesThanTheFileHas)
 
 TEST_F(FaultContainerTest, AFileWithoutEntriesIsOneThatLacksPictures)
 {
-    ExpectNormalStart(Head(0));
+    ExpectNormalStart(PictureFileHead(0));
     ExpectAllPagesWork();
 }
 
 TEST_F(FaultContainerTest, EntriesThatLieBeyondTheEndAreLikeMissingOnes)
 {
-    std::vector<Entry> entries;
+    std::vector<PictureEntry> entries;
     for (uint32_t id = 0; id < 16; id++) {
         entries.push_back({id, 0x7FFFFF00u, 64});
     }
-    ExpectNormalStart(WithEntries(entries));
+    ExpectNormalStart(PictureDirectory(entries));
     ExpectAllPagesWork();
 }
 
 TEST_F(FaultContainerTest, EntriesOfHostileSizesAreLikeMissingOnes)
 {
-    std::vector<Entry> entries;
+    std::vector<PictureEntry> entries;
     uint32_t id = 0;
     for (uint32_t size : {0xFFFFFFFFu, 0x80000000u, 0x7FFFFFFFu, 0x7FFFFFF0u, 0u, 1u, 20u, 0xFFFFFFF0u}) {
         entries.push_back({id++, 27, size});
         entries.push_back({id++, 0, size});
     }
-    ExpectNormalStart(WithEntries(entries));
+    ExpectNormalStart(PictureDirectory(entries));
     ExpectAllPagesWork();
 }
 
 TEST_F(FaultContainerTest, EntriesThatAreNoPicturesAreLikeMissingOnes)
 {
-    std::vector<Entry> entries;
+    std::vector<PictureEntry> entries;
     for (uint32_t id = 0; id < 16; id++) {
         entries.push_back({id, 27, 300});
     }
-    ExpectNormalStart(WithEntries(entries));
+    ExpectNormalStart(PictureDirectory(entries));
     ExpectAllPagesWork();
 }
 
 TEST_F(FaultContainerTest, HostileOffsetsDoNotHinderTheStart)
 {
-    ExpectNormalStart(WithEntries({{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF}, {0xFFFFFFFF, 0x80000000, 1}}));
+    ExpectNormalStart(PictureDirectory({{0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF}, {0xFFFFFFFF, 0x80000000, 1}}));
     ExpectAllPagesWork();
 }

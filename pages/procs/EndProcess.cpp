@@ -61,10 +61,10 @@ static BOOL CALLBACK PostCloseProc(HWND window, LPARAM processId)
     return TRUE;
 }
 
-// A process that ends with this very code counts as running.
-static bool HasEnded(HANDLE process)
+// A process that ends with this very code counts as running. code: what was known before, for a system that
+// does not tell.
+static bool HasEnded(HANDLE process, DWORD& code)
 {
-    DWORD code = 0;
     GetExitCodeProcess(process, &code);
     return code != stillActive;
 }
@@ -81,10 +81,10 @@ static bool IsForceConfirmed(HWND owner)
                       L"Terminate process");
 }
 
-static void Terminate(HANDLE process)
+static void Terminate(HANDLE process, DWORD& code)
 {
     TerminateProcess(process, 0);
-    if (!HasEnded(process)) {
+    if (!HasEnded(process, code)) {
         CVireoApp::Current()->ShowNotice(L"Can't kill process.");
     }
     CloseHandle(process);
@@ -107,8 +107,9 @@ static void TryToEnd(HWND owner, const SProcIdentity& process)
     EnumWindows(PostCloseProc, static_cast<LPARAM>(process.id));
     WaitForSingleObject(handle, closingMs);
     // Unless it is ended by force the process's handle stays open, on purpose.
-    if (!HasEnded(handle) && IsForceConfirmed(owner)) {
-        Terminate(handle);
+    DWORD code = 0;
+    if (!HasEnded(handle, code) && IsForceConfirmed(owner)) {
+        Terminate(handle, code);
     }
 }
 

@@ -3,6 +3,6 @@
 
 #include "pages/procs/SProcInfo.h"
 
-// Path, id, memory and threads as they were listed, the system version that it asks for, and its modules.
-// What cannot be had is said in the text; of a process that has gone only the listed facts stand.
+// Id, memory and threads as they were listed; path, the system version that it asks for and its modules as
+// they are. What cannot be had is said in the text or missing.
 void AppendProcessReport(CStr& report, const SProcInfo& process);

@@ -48,16 +48,17 @@ bool IsTakenByAnother(const SProcIdentity& process)
 {
     HANDLE snapshot = CreateToolhelp32Snapshot(snapshotFlags, 0);
     if (snapshot == INVALID_HANDLE_VALUE) {
-        return false;
+        return true;
     }
-    bool taken = false;
     PROCESSENTRY32 entry = {};
     entry.dwSize = sizeof entry;
-    for (BOOL more = Process32First(snapshot, &entry); more; more = Process32Next(snapshot, &entry)) {
-        if (entry.th32ProcessID == process.id) {
-            taken = process.name.CompareNoCase(entry.szExeFile) != 0;
-            break;
-        }
+    BOOL more = Process32First(snapshot, &entry);
+    bool taken = !more;
+    while (more && entry.th32ProcessID != process.id) {
+        more = Process32Next(snapshot, &entry);
+    }
+    if (more) {
+        taken = process.name.CompareNoCase(entry.szExeFile) != 0;
     }
     CloseToolhelp32Snapshot(snapshot);
     return taken;

@@ -4,7 +4,8 @@
 #include "framework/ArrayNames.h"
 #include "framework/CStr.h"
 
-// What a command about a process acts on. The name guards the id: ids are given again.
+// What a command about a process acts on. Ids are given again: before a process is ended its name is
+// compared.
 struct SProcIdentity
 {
     DWORD id = 0;

@@ -54,12 +54,13 @@ TEST_F(EndByForceTest, AProcessThatRunsOnIsToldAbout)
                                               L"notice Can't kill process.", L"for 3000", L"close"}));
 }
 
-TEST_F(EndByForceTest, AnExitCodeThatCannotBeHadAfterwardsIsAnEnd)
+TEST_F(EndByForceTest, WhenNoExitCodeCanBeHadAfterwardsTheOneBeforeCounts)
 {
     answers = {IDYES, IDOK, IDYES};
     exitCodes = {running};
     EXPECT_TRUE(End());
-    EXPECT_EQ(calls, Joined(UntilExitCode(), {hangs, warning, L"terminate 0", L"exit code", L"close"}));
+    EXPECT_EQ(calls, Joined(UntilExitCode(), {hangs, warning, L"terminate 0", L"exit code",
+                                              L"notice Can't kill process.", L"for 3000", L"close"}));
 }
 
 // While a box is open the main window may go with all its pages.

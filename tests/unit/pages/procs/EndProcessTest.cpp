@@ -108,14 +108,13 @@ TEST_F(EndProcessTest, AProcessThatLeftTheSnapshotMeanwhileIsAskedAllTheSame)
     EXPECT_EQ(calls, UntilExitCode());
 }
 
-TEST_F(EndProcessTest, WhenTheSystemCannotSayWhoHasTheIdItIsTheProcess)
+TEST_F(EndProcessTest, WhenTheSystemCannotSayWhoHasTheIdNothingIsEnded)
 {
     answers = {IDYES};
-    exitCodes = {0};
     system.givesProcesses = false;
     EXPECT_TRUE(End());
-    EXPECT_EQ(calls, (Calls{Question(L"word.exe"), L"open 100001 42", L"snapshot 40000002 0", L"all windows",
-                            L"wait 2000", L"exit code"}));
+    EXPECT_EQ(calls, (Calls{Question(L"word.exe"), L"open 100001 42", L"snapshot 40000002 0", L"close",
+                            L"notice Can't end process", L"for 3000"}));
 }
 
 TEST_F(EndProcessTest, AnyExitCodeButTheOneOfRunningIsAnEnd)

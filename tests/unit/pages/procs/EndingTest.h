@@ -41,6 +41,7 @@ class EndingTest : public testing::Test
     HRESULT policyResult = S_OK;
     DWORD tiers = 1;
     std::deque<DWORD> exitCodes; // in order; afterwards they cannot be had
+    DWORD lastExitCode = 0;      // what the program knows of it
 
     EndingTest();
 

@@ -23,22 +23,6 @@ known_profiles()
     printf '%s\n' "${names[*]}"
 }
 
-# card_names <profile file>: the storage cards it names, one a line; a card may have no name, a profile no cards.
-card_names()
-{
-    tr -d '\r' <"$1" | sed -n 's/^[[:space:]]*cards[[:space:]]*=//Ip' | sed 's/[[:space:]][;#].*//; s/,/\n/g' |
-        sed 's/^[[:space:]]*"\{0,1\}\\\{0,1\}//; s/"\{0,1\}[[:space:]]*$//; /^$/d'
-}
-
-# make_cards <prefix> <profile file>: the folders that its storage cards are.
-make_cards()
-{
-    local card
-    while IFS= read -r card; do
-        make_folder "$1/drive_c/$card"
-    done < <(card_names "$2")
-}
-
 # start_handheld <prefix> <build folder> <profile> <log>: starts what a device has around its programs and waits until
 # it is there. Its process id is in QV_HANDHELD_PID. It is also what keeps Wine's own services running.
 start_handheld()
@@ -46,7 +30,6 @@ start_handheld()
     local prefix=$1 build=$2 profile=$3 log=$4
     QV_FOCUS_LIBRARY=$build/wine/libx11_focus.so
     [[ -f $QV_FOCUS_LIBRARY ]] || fail "the build lacks $QV_FOCUS_LIBRARY"
-    make_cards "$prefix" "$(profile_file "$build" "$profile")"
     rm -f "$prefix/drive_c/handheld.ready"
     start_in_prefix "$prefix" "$log" "$QV_WINE" "$QV_PROGRAM_PATH\\handheld.exe" \
         --profile "$QV_PROGRAM_PATH\\profiles\\$profile.ini" --ready 'C:\handheld.ready'

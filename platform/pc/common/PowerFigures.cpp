@@ -15,7 +15,10 @@ static bool HasBattery(const SYSTEM_POWER_STATUS* real)
 static void Script(const BatteryScript& script, SYSTEM_POWER_STATUS_EX& status)
 {
     status.ACLineStatus = script.lineStatus.value_or(status.ACLineStatus);
-    status.BatteryLifePercent = script.percent.value_or(status.BatteryLifePercent);
+    if (script.percent) {
+        status.BatteryFlag = unknown; // no longer that there is none
+        status.BatteryLifePercent = *script.percent;
+    }
     status.BatteryLifeTime = script.life.value_or(status.BatteryLifeTime);
     status.BatteryFullLifeTime = script.fullLife.value_or(status.BatteryFullLifeTime);
     status.BackupBatteryLifePercent = script.backupPercent.value_or(status.BackupBatteryLifePercent);
@@ -27,7 +30,8 @@ bool TellPower(const BatteryScript& script, const SYSTEM_POWER_STATUS* real, SYS
     if (scripted && !script.present) {
         return false;
     }
-    const bool anyFigure = script.percent || script.lineStatus || script.life || script.fullLife;
+    const bool anyFigure =
+        script.percent || script.lineStatus || script.life || script.fullLife || script.backupPercent;
     if (!real && !(scripted && anyFigure)) {
         return false;
     }

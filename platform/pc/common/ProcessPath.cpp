@@ -3,12 +3,17 @@
 
 namespace handheld {
 
+static constexpr DWORD longestPath = 32768; // characters; what Windows knows
+
 std::wstring PathOfProcess(HANDLE process)
 {
-    wchar_t path[MAX_PATH] = {};
-    DWORD length = MAX_PATH;
-    return QueryFullProcessImageNameW(process, 0, path, &length) ? std::wstring(path, length)
-                                                                 : std::wstring();
+    std::wstring path(longestPath, L'\0');
+    DWORD length = longestPath;
+    if (!QueryFullProcessImageNameW(process, 0, path.data(), &length)) {
+        return {};
+    }
+    path.resize(length);
+    return path;
 }
 
 const ProcessScript* ScriptOfProcess(DWORD processId)

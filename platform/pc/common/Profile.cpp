@@ -128,7 +128,7 @@ Profile ParseProfile(std::wstring_view text)
         const size_t equals = line.find(L'=');
         if (line.front() == L'[' && line.back() == L']') {
             section = Lower(Trimmed(line.substr(1, line.size() - 2)));
-        } else if (equals != std::wstring_view::npos) {
+        } else if (equals != std::wstring_view::npos && !Trimmed(line.substr(0, equals)).empty()) {
             SetKey(profile, section, line, equals);
         }
     }

@@ -1,10 +1,10 @@
 // Paths of programs and names of files.
 #include "platform/pc/common/DevicePath.h"
 #include "platform/pc/common/FindPattern.h"
+#include "platform/pc/common/ProcessPath.h"
 
-#include <windows.h>
-
-// Modules lie on 64 KB borders; anything else in a module's place is a process id, as a device takes it.
+// Modules lie on 64 KB borders; anything else in a module's place is a process id, as a device takes it. (A
+// process whose id is a multiple of that has no path here.)
 static bool IsProcessId(HMODULE module)
 {
     return (reinterpret_cast<ULONG_PTR>(module) & 0xFFFF) != 0;
@@ -20,16 +20,14 @@ static DWORD PathOfProcess(DWORD process, wchar_t* path, DWORD size)
     if (!handle) {
         return 0;
     }
-    DWORD length = size;
-    const BOOL known = QueryFullProcessImageNameW(handle, 0, path, &length);
-    const DWORD error = GetLastError();
+    const std::wstring known = handheld::PathOfProcess(handle);
     CloseHandle(handle);
-    if (known) {
-        return length;
+    if (known.size() >= size) {
+        SetLastError(ERROR_INSUFFICIENT_BUFFER);
+        return 0;
     }
-    *path = L'\0';
-    SetLastError(error);
-    return 0;
+    lstrcpyW(path, known.c_str());
+    return static_cast<DWORD>(known.size());
 }
 
 static bool IsDots(const wchar_t* name)

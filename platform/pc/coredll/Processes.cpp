@@ -24,8 +24,7 @@ extern "C" HANDLE WINAPI ce_OpenProcess(DWORD access, BOOL inherit, DWORD proces
         SetLastError(ERROR_ACCESS_DENIED);
         return nullptr;
     }
-    const HANDLE handle = OpenProcess(access | PROCESS_QUERY_LIMITED_INFORMATION, inherit, process);
-    return handle || GetLastError() != ERROR_ACCESS_DENIED ? handle : OpenProcess(access, inherit, process);
+    return OpenProcess(access | PROCESS_QUERY_LIMITED_INFORMATION, inherit, process);
 }
 
 extern "C" BOOL WINAPI ce_TerminateProcess(HANDLE process, UINT exitCode)

@@ -1,6 +1,7 @@
 // handheld.exe: the shell of the PC's handheld, the Today screen and the top bar. It runs beside the
 // programs.
 #include "platform/pc/common/ActiveProfile.h"
+#include "platform/pc/handheld/Cards.h"
 #include "platform/pc/handheld/Control.h"
 #include "platform/pc/handheld/Options.h"
 #include "platform/pc/handheld/Today.h"
@@ -103,6 +104,7 @@ static int RunShell(const Options& options)
         Say(L"Cannot read the profile " + options.profile + L"\n");
         return failed;
     }
+    MakeCards();
     Control control;
     Today today;
     if (!control.Open() || !today.Open()) {

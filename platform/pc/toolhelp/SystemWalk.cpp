@@ -3,16 +3,34 @@
 
 #include <tlhelp32.h>
 
+static constexpr int mostTries = 10;
+
+// A 64-bit program asks for the modules of 32-bit processes apart, and is told to try again while a process
+// loads or frees some.
 HANDLE TakeSystemSnapshot(DWORD flags, DWORD processId)
 {
-    return CreateToolhelp32Snapshot(flags, processId);
+    if ((flags & TH32CS_SNAPMODULE) != 0) {
+        flags |= TH32CS_SNAPMODULE32;
+    }
+    HANDLE snapshot = CreateToolhelp32Snapshot(flags, processId);
+    for (int i = 1; i < mostTries && snapshot == INVALID_HANDLE_VALUE && GetLastError() == ERROR_BAD_LENGTH;
+         ++i) {
+        snapshot = CreateToolhelp32Snapshot(flags, processId);
+    }
+    return snapshot;
 }
 
 bool WalkProcesses(HANDLE snapshot, bool first, SystemProcess& process)
 {
     PROCESSENTRY32W entry = {};
     entry.dwSize = sizeof entry;
-    if (!(first ? Process32FirstW : Process32NextW)(snapshot, &entry)) {
+    BOOL found = (first ? Process32FirstW : Process32NextW)(snapshot, &entry);
+    // Windows lists its idle time as a process without an id; a device does not, and takes such an id for the
+    // asking process.
+    while (found && entry.th32ProcessID == 0) {
+        found = Process32NextW(snapshot, &entry);
+    }
+    if (!found) {
         return false;
     }
     process.id = entry.th32ProcessID;

@@ -1,4 +1,4 @@
-// Draws single-line rows.
+// Draws rows.
 #include "lists/CRowPainter.h"
 
 #include "framework/Scale.h"

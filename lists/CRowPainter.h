@@ -1,4 +1,4 @@
-// Colours, icon and text of a single-line row.
+// Colours, icon and text of a row.
 #pragma once
 
 #include "platform/ce.h"

@@ -27,8 +27,7 @@ class CListPage : public CVireoView
     virtual CLB_Base& List() = 0;
     // Frees the records and asks the platform for them anew.
     virtual void Collect() = 0;
-    // Collects, unless that is under way already: the shell's answers about icons, and a fatal report's box,
-    // let refreshes in. False then.
+    // Collects, unless that is under way already: the box of a fatal report lets refreshes in. False then.
     bool Recollect();
     virtual void Refresh();
     // Where the list begins, in pixels from the page's top edge.

@@ -1,6 +1,8 @@
 // The volumes of the device.
 #include "pages/sysinfo/CVolumes.h"
 
+#include "framework/CFileUtils.h"
+
 CVolumes::~CVolumes()
 {
     if (search != INVALID_HANDLE_VALUE) {
@@ -9,17 +11,6 @@ CVolumes::~CVolumes()
     if (card != nullptr) {
         LocalFree(card);
     }
-}
-
-static bool Exists(const wchar_t* path)
-{
-    WIN32_FIND_DATAW found = {};
-    HANDLE search = FindFirstFileW(path, &found);
-    if (search == INVALID_HANDLE_VALUE) {
-        return false;
-    }
-    FindClose(search);
-    return true;
 }
 
 bool CVolumes::Next()
@@ -33,7 +24,7 @@ bool CVolumes::Next()
         name.Assign(card->cFileName, MAX_PATH);
         CStr path(L"\\");
         path.Append(name);
-        if (!name.IsEmpty() && Exists(path)) {
+        if (!name.IsEmpty() && CFileUtils::FileExists(path)) {
             AskSize(path);
             return true;
         }

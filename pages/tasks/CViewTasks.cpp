@@ -72,12 +72,6 @@ void CViewTasks::Rebuild(HWND keepSelected)
     }
 }
 
-void CViewTasks::Refresh()
-{
-    FillList(-1);
-    ShowRefilled();
-}
-
 void CViewTasks::OnCommand(uint32_t commandId, uint32_t notifyCode, LPARAM control)
 {
     const SRowCopy<HWND> selected = CopyRow(tasks, list.SelectedRow());

@@ -29,7 +29,6 @@ class CViewTasks : public CListPage
   protected:
     CLB_Base& List() override { return list; }
     void Collect() override;
-    void Refresh() override;
 
   private:
     HWND WindowOfRow(int row) const; // null for a row without a task

@@ -11,7 +11,8 @@ struct LateExport
     WORD number;
 };
 
-// A device without it is told so, with what does not work there; the call then does nothing.
+// A device without it is told so, with what does not work there, unless nobody would miss it; the call then
+// does nothing.
 class LateFunction
 {
     const LateExport& wanted;

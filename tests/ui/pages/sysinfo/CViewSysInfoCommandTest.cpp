@@ -41,6 +41,18 @@ class CViewSysInfoCommandTest : public SysInfoPageTest
         }
     }
 
+    // The command leaves the list's selection alone.
+    static void ExpectNoSelecting(ProgramApp& app, UINT command)
+    {
+        const SPY(SendMessageW) send([&](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+            EXPECT_NE(message, UINT{LVM_SETITEMSTATE});
+            EXPECT_NE(message, UINT{LVM_SETSELECTIONMARK});
+            return send.Real(window, message, wParam, lParam);
+        });
+        SendMessageW(Page(app).Window(), WM_COMMAND, command, 0);
+        EXPECT_FALSE(send.calls.empty());
+    }
+
     static HACCEL PageKeys()
     {
         static HACCEL const keys =
@@ -173,7 +185,7 @@ TEST_F(CViewSysInfoCommandTest, AboveTheFirstRowThereIsNone)
     OnPage([&](ProgramApp& app) {
         Select(app, 1);
         ASSERT_EQ(TopRow(app), 0);
-        Run(app, 32787);
+        ExpectNoSelecting(app, 32787);
         ExpectSelected(app, 1);
         Select(app, 42);
         for (int i = TopRow(app); i > 0; i--) {
@@ -208,13 +220,14 @@ TEST_F(CViewSysInfoCommandTest, BelowTheLastRowThereIsNone)
             device.cards.resize(static_cast<size_t>(rows - 3));
             Run(app, CMD_REFRESH);
             Select(app, 0);
-            Run(app, 32788);
         };
         setRows(page + 1);
-        ExpectSelected(app, page); // the very last row
         Run(app, 32788);
-        ExpectSelected(app, page);
+        ExpectSelected(app, page); // the very last row
+        ExpectNoSelecting(app, 32788);
         setRows(page);
+        ASSERT_EQ(TopRow(app) + RowsPerPage(app), page);
+        ExpectNoSelecting(app, 32788);
         ExpectSelected(app, 0);
     });
 }

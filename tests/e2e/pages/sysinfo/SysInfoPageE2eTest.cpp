@@ -17,7 +17,7 @@ static const std::vector<MenuLine> pageMenu = {{L"Memory information"},
                                                {},
                                                {L"Exit"}};
 
-class SysInfoPageTest : public GaugeSession
+class SysInfoPageE2eTest : public GaugeSession
 {
   protected:
     // A line of the menu, counted from 1 without separators, by keys.
@@ -57,7 +57,7 @@ class SysInfoPageTest : public GaugeSession
     }
 };
 
-TEST_F(SysInfoPageTest, ItsNeighboursAreTheStartPageAndTheProcesses)
+TEST_F(SysInfoPageE2eTest, ItsNeighboursAreTheStartPageAndTheProcesses)
 {
     Show(L"", plainFigures);
     ASSERT_FALSE(HasFatalFailure());
@@ -74,7 +74,7 @@ TEST_F(SysInfoPageTest, ItsNeighboursAreTheStartPageAndTheProcesses)
     EXPECT_TRUE(program->WaitForPage(ProcsPage));
 }
 
-TEST_F(SysInfoPageTest, TheMenuLooksAsItShould)
+TEST_F(SysInfoPageE2eTest, TheMenuLooksAsItShould)
 {
     Show(L"", plainFigures);
     ASSERT_FALSE(HasFatalFailure());
@@ -91,7 +91,7 @@ TEST_F(SysInfoPageTest, TheMenuLooksAsItShould)
     ExpectKeysReachThePage(SysInfoPage);
 }
 
-TEST_F(SysInfoPageTest, TheMenuShowsTheReportsAndRefreshes)
+TEST_F(SysInfoPageE2eTest, TheMenuShowsTheReportsAndRefreshes)
 {
     MakeCard(L"Card");
     Show(L"Card", plainFigures);
@@ -105,7 +105,7 @@ TEST_F(SysInfoPageTest, TheMenuShowsTheReportsAndRefreshes)
     ExpectGauge(2, plainBattery);
 }
 
-TEST_F(SysInfoPageTest, ACardThatGoesAndComesIsFollowed)
+TEST_F(SysInfoPageE2eTest, ACardThatGoesAndComesIsFollowed)
 {
     MakeCard(L"First");
     MakeCard(L"Second");
@@ -128,7 +128,7 @@ TEST_F(SysInfoPageTest, ACardThatGoesAndComesIsFollowed)
     ExpectGauge(2, second);
 }
 
-TEST_F(SysInfoPageTest, ThereIsARowForWhatThereIs)
+TEST_F(SysInfoPageE2eTest, ThereIsARowForWhatThereIs)
 {
     Show(L"", L"[battery]\npresent = no\n");
     ASSERT_FALSE(HasFatalFailure());
@@ -141,7 +141,7 @@ TEST_F(SysInfoPageTest, ThereIsARowForWhatThereIs)
     EXPECT_TRUE(HasRows(6));
 }
 
-TEST_F(SysInfoPageTest, TheSelectionIsNotSeen)
+TEST_F(SysInfoPageE2eTest, TheSelectionIsNotSeen)
 {
     Show(L"", plainFigures);
     ASSERT_FALSE(HasFatalFailure());
@@ -157,7 +157,7 @@ TEST_F(SysInfoPageTest, TheSelectionIsNotSeen)
     ExpectGauge(1, plainStorage);
 }
 
-TEST_F(SysInfoPageTest, EnterAndADoubleTapDoNothing)
+TEST_F(SysInfoPageE2eTest, EnterAndADoubleTapDoNothing)
 {
     Show(L"", plainFigures);
     ASSERT_FALSE(HasFatalFailure());
@@ -170,7 +170,7 @@ TEST_F(SysInfoPageTest, EnterAndADoubleTapDoNothing)
     ExpectNothingHappened(before);
 }
 
-TEST_F(SysInfoPageTest, UpAndDownScrollWhenThereAreMoreGaugesThanFit)
+TEST_F(SysInfoPageE2eTest, UpAndDownScrollWhenThereAreMoreGaugesThanFit)
 {
     std::wstring cards;
     for (int number = 10; number < 22; number++) {
@@ -200,7 +200,7 @@ TEST_F(SysInfoPageTest, UpAndDownScrollWhenThereAreMoreGaugesThanFit)
     ExpectGauge(0, plainMemory);
 }
 
-TEST_F(SysInfoPageTest, UpAndDownDoNothingWhenAllGaugesFit)
+TEST_F(SysInfoPageE2eTest, UpAndDownDoNothingWhenAllGaugesFit)
 {
     Show(L"", plainFigures);
     ASSERT_FALSE(HasFatalFailure());

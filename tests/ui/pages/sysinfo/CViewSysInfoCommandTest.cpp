@@ -1,8 +1,8 @@
 // The system information page: its reports, its paging, and the commands that are not its own.
 // profiles: pocketpc pocketpc-vga smartphone
-#include "tests/ui/pages/sysinfo/SysInfoPageTest.h"
+#include "tests/ui/pages/sysinfo/ShownSysInfo.h"
 
-class CViewSysInfoCommandTest : public SysInfoPageTest
+class CViewSysInfoCommandTest : public ShownSysInfo
 {
   protected:
     static constexpr UINT reports[] = {32785, 32786};

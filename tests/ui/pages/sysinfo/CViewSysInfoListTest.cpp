@@ -1,11 +1,11 @@
 // The system information page: its list, its measures, and what showing and refreshing it do.
 // profiles: pocketpc pocketpc-vga smartphone
 #include "tests/support/Fatal.h"
-#include "tests/ui/pages/sysinfo/SysInfoPageTest.h"
+#include "tests/ui/pages/sysinfo/ShownSysInfo.h"
 
 #include <algorithm>
 
-class CViewSysInfoListTest : public SysInfoPageTest
+class CViewSysInfoListTest : public ShownSysInfo
 {
   protected:
     static LOGFONTW FontOf(HGDIOBJ font)

@@ -1,7 +1,7 @@
 // The fixture of the tests that draw a row of the system information page and look at how.
 #pragma once
 
-#include "tests/ui/pages/sysinfo/SysInfoPageTest.h"
+#include "tests/ui/pages/sysinfo/ShownSysInfo.h"
 
 struct DrawnText
 {
@@ -33,7 +33,7 @@ struct DrawnRow
     std::vector<DrawnCopy> copies;
 };
 
-class GaugePainting : public SysInfoPageTest
+class GaugePainting : public ShownSysInfo
 {
   protected:
     static constexpr int canvasWidth = 400;

@@ -1,8 +1,8 @@
 // What a long life of the system information page leaves behind: nothing.
 #include "tests/ui/LeakCheck.h"
-#include "tests/ui/pages/sysinfo/SysInfoPageTest.h"
+#include "tests/ui/pages/sysinfo/ShownSysInfo.h"
 
-class SysInfoLeaksTest : public SysInfoPageTest
+class SysInfoLeaksTest : public ShownSysInfo
 {
   protected:
     void ExpectNothingLeft(int times, const std::function<void()>& step, size_t keptBySystem = 0)

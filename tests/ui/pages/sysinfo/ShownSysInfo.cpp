@@ -1,9 +1,9 @@
 // The fixture of the tests of the system information page.
-#include "tests/ui/pages/sysinfo/SysInfoPageTest.h"
+#include "tests/ui/pages/sysinfo/ShownSysInfo.h"
 
 #include "framework/Gdi.h"
 
-void SysInfoPageTest::OnPage(const std::function<void(ProgramApp&)>& test)
+void ShownSysInfo::OnPage(const std::function<void(ProgramApp&)>& test)
 {
     InProgram([&](ProgramApp& app) {
         app.ActivateView(2);
@@ -11,7 +11,7 @@ void SysInfoPageTest::OnPage(const std::function<void(ProgramApp&)>& test)
     });
 }
 
-void SysInfoPageTest::Select(ProgramApp& app, int row)
+void ShownSysInfo::Select(ProgramApp& app, int row)
 {
     LVITEMW item = {};
     item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
@@ -20,24 +20,24 @@ void SysInfoPageTest::Select(ProgramApp& app, int row)
     SendMessageW(List(app), LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
 
-void SysInfoPageTest::ExpectSelected(ProgramApp& app, int row)
+void ShownSysInfo::ExpectSelected(ProgramApp& app, int row)
 {
     EXPECT_EQ(Mark(List(app)), row);
     EXPECT_EQ(RowsInState(List(app), LVIS_SELECTED), std::vector<int>{row});
     EXPECT_EQ(RowsInState(List(app), LVIS_FOCUSED), std::vector<int>{row});
 }
 
-int SysInfoPageTest::TopRow(ProgramApp& app)
+int ShownSysInfo::TopRow(ProgramApp& app)
 {
     return static_cast<int>(SendMessageW(List(app), LVM_GETTOPINDEX, 0, 0));
 }
 
-int SysInfoPageTest::RowsPerPage(ProgramApp& app)
+int ShownSysInfo::RowsPerPage(ProgramApp& app)
 {
     return static_cast<int>(SendMessageW(List(app), LVM_GETCOUNTPERPAGE, 0, 0));
 }
 
-bool SysInfoPageTest::IsVisibleRow(ProgramApp& app, int row)
+bool ShownSysInfo::IsVisibleRow(ProgramApp& app, int row)
 {
     return row >= TopRow(app) && row < TopRow(app) + RowsPerPage(app);
 }
@@ -48,17 +48,17 @@ static int Scaled(int pixels, int index)
     return (pixels * GetDeviceCaps(screen, index) + 48) / 96;
 }
 
-int SysInfoPageTest::X(int pixels)
+int ShownSysInfo::X(int pixels)
 {
     return Scaled(pixels, LOGPIXELSX);
 }
 
-int SysInfoPageTest::Y(int pixels)
+int ShownSysInfo::Y(int pixels)
 {
     return Scaled(pixels, LOGPIXELSY);
 }
 
-int SysInfoPageTest::LineHeight(HFONT font)
+int ShownSysInfo::LineHeight(HFONT font)
 {
     const ScreenDC screen;
     const Selection selected(screen, font);

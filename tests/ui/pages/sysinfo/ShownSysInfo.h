@@ -5,7 +5,7 @@
 #include "tests/support/ScriptedDevice.h"
 #include "tests/ui/ProgramTest.h"
 
-class SysInfoPageTest : public ProgramTest
+class ShownSysInfo : public ProgramTest
 {
   protected:
     ScriptedDevice device;

@@ -89,6 +89,16 @@ TEST_F(EndProcessTest, AProcessThatCannotBeOpenedIsToldAbout)
     }
 }
 
+TEST_F(EndProcessTest, APolicyWithoutAValueIsNotTheTwoTiers)
+{
+    opens = false;
+    givesTiers = false;
+    answers = {IDYES};
+    EXPECT_TRUE(End());
+    EXPECT_EQ(calls, (Calls{Question(L"word.exe"), L"open 100001 42", L"policy 4123",
+                            L"notice Can't end process", L"for 3000"}));
+}
+
 TEST_F(EndProcessTest, AnIdThatAnotherProcessHasMeanwhileIsLeftAlone)
 {
     AddWindow(42);

@@ -37,7 +37,7 @@ EndingTest::EndingTest()
     };
     policy.instead = [this](DWORD id, DWORD* value) {
         Note(L"policy " + std::to_wstring(id));
-        if (SUCCEEDED(policyResult)) {
+        if (SUCCEEDED(policyResult) && givesTiers) {
             *value = tiers;
         }
         return policyResult;

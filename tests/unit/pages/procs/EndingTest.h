@@ -40,6 +40,7 @@ class EndingTest : public testing::Test
     bool opens = true;
     HRESULT policyResult = S_OK;
     DWORD tiers = 1;
+    bool givesTiers = true;      // false: it answers without a value
     std::deque<DWORD> exitCodes; // in order; afterwards they cannot be had
     DWORD lastExitCode = 0;      // what the program knows of it
 

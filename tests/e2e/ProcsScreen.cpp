@@ -128,6 +128,7 @@ void ProcsScreen::Answer(HWND box, WORD key)
 
 void ProcsScreen::ExpectUsable() const
 {
+    Send(Main(), WM_NULL); // past the command
     EXPECT_TRUE(WaitFor([&] { return GetForegroundWindow() == Main() && FocusOf(Main()) == list; }))
         << "the page has not got the focus";
     EXPECT_TRUE(IsWindowEnabled(Main()));

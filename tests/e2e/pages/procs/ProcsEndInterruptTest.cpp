@@ -79,6 +79,7 @@ TEST_F(ProcsEndInterruptTest, AnotherPageThatIsShownStays)
     const HWND question = Open(0);
     Do(CMD_SHOW_TASKS);
     Answer(question, noKey);
+    Send(Main(), WM_NULL); // past the command
     EXPECT_TRUE(WaitFor([] { return GetForegroundWindow() == Main(); }));
     EXPECT_EQ(TasksPage, program->VisiblePage());
     EXPECT_TRUE(WaitFor([] { return FocusOf(Main()) == program->List(TasksPage); }));

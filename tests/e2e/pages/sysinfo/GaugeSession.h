@@ -16,7 +16,7 @@ class GaugeSession : public ShellSession
 
   protected:
     HWND list = nullptr;
-    const GaugeLook look;
+    const GaugeLook look{};
 
     // The test says first what the handheld has.
     void SetUp() override {}

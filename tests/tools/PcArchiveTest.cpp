@@ -6,7 +6,8 @@
 #include <algorithm>
 
 static const std::vector<std::string> programs = {"Quorvane.exe", "Quorvane.zrs", "aygshell.dll",
-                                                  "coredll.dll",  "handheld.exe", "toolhelp.dll"};
+                                                  "coredll.dll",  "handheld.exe", "note_prj.dll",
+                                                  "toolhelp.dll"};
 
 class PcArchiveTest : public testing::Test
 {
@@ -56,10 +57,12 @@ class PcArchiveTest : public testing::Test
 TEST_F(PcArchiveTest, HoldsWhatAPcNeedsAndNothingElse)
 {
     const ProgramResult list = RunPackaging({"unzip", "-Z1", archive});
-    EXPECT_EQ(list.output, "Quorvane/Quorvane.exe\nQuorvane/Quorvane.zrs\nQuorvane/README.txt\n"
-                           "Quorvane/aygshell.dll\nQuorvane/coredll.dll\n"
-                           "Quorvane/handheld.exe\nQuorvane/profiles/one.ini\nQuorvane/profiles/two.ini\n"
-                           "Quorvane/run.cmd\nQuorvane/toolhelp.dll\n");
+    EXPECT_EQ(
+        list.output,
+        "Quorvane/Quorvane.exe\nQuorvane/Quorvane.zrs\nQuorvane/README.txt\n"
+        "Quorvane/aygshell.dll\nQuorvane/coredll.dll\n"
+        "Quorvane/handheld.exe\nQuorvane/note_prj.dll\nQuorvane/profiles/one.ini\nQuorvane/profiles/two.ini\n"
+        "Quorvane/run.cmd\nQuorvane/toolhelp.dll\n");
     for (const std::string& name : programs) {
         EXPECT_EQ(Extracted(name), name);
     }
@@ -91,7 +94,7 @@ TEST_F(PcArchiveTest, HoldsNoOwnersAndFurtherTimes)
         EXPECT_EQ(std::stoi(report.substr(at + field.size())), 0);
         files++;
     }
-    EXPECT_EQ(files, 10);
+    EXPECT_EQ(files, 11);
 }
 
 TEST_F(PcArchiveTest, TextsAreForWindows)

@@ -102,14 +102,18 @@ TEST_F(ProcLeaksTest, ReportsAndWindowsListsLeaveNothing)
     OnPage([&](ProgramApp& app) {
         // Wine 8.0's edit control keeps a block for each one whose text is longer than a few hundred
         // characters.
-        for (const auto& [command, keptBySystem] :
-             {std::pair(CMD_PROCESS_DETAILS, 1), {CMD_WINDOWS_LIST, 0}}) {
-            SCOPED_TRACE(command);
+        const struct
+        {
+            UINT command;
+            size_t keptBySystem;
+        } dialogs[] = {{CMD_PROCESS_DETAILS, 1}, {CMD_WINDOWS_LIST, 0}};
+        for (const auto& dialog : dialogs) {
+            SCOPED_TRACE(dialog.command);
             const auto step = [&] {
                 app.Later([&] { app.EndAllDialogs(); });
-                Run(app, static_cast<UINT>(command));
+                Run(app, dialog.command);
             };
-            ExpectNothingLeft(50, step, static_cast<size_t>(keptBySystem));
+            ExpectNothingLeft(50, step, dialog.keptBySystem);
         }
     });
 }

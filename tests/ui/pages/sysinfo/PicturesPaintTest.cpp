@@ -211,17 +211,22 @@ TEST_F(PicturesPaintTest, APictureThatIsHigherThanTheRowStandsOutEquallyAbove)
 
 TEST_F(PicturesPaintTest, LargeIconsGoWithLargePictures)
 {
-    for (const auto& [width, side] : {std::pair{16, 32}, {17, 48}}) {
+    static constexpr struct
+    {
+        int width;
+        int side;
+    } sizes[] = {{16, 32}, {17, 48}};
+    for (const auto& icons : sizes) {
         const SPY(ImageList_GetIconSize) size([&](HIMAGELIST, int* w, int* h) {
-            *w = *h = width;
+            *w = *h = icons.width;
             return TRUE;
         });
         OnPage([&](ProgramApp& app) {
-            EXPECT_EQ(Side(app), side);
+            EXPECT_EQ(Side(app), icons.side);
             const DrawnRow drawn = Draw(app, 0);
             ASSERT_EQ(drawn.copies.size(), 3u);
             EXPECT_EQ(drawn.copies[0].place, Place(app));
-            EXPECT_EQ(drawn.texts.at(0).rect.left, row.left + X(8) + side);
+            EXPECT_EQ(drawn.texts.at(0).rect.left, row.left + X(8) + icons.side);
         });
     }
 }

@@ -7,8 +7,17 @@ static constexpr DWORD longestPath = 32768; // characters; what Windows knows
 
 std::wstring PathOfProcess(HANDLE process)
 {
+    // Asked for every process of every refresh: the large room only for a path that needs it.
+    wchar_t usual[MAX_PATH];
+    DWORD length = MAX_PATH;
+    if (QueryFullProcessImageNameW(process, 0, usual, &length)) {
+        return {usual, length};
+    }
+    if (GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
+        return {};
+    }
     std::wstring path(longestPath, L'\0');
-    DWORD length = longestPath;
+    length = longestPath;
     if (!QueryFullProcessImageNameW(process, 0, path.data(), &length)) {
         return {};
     }

@@ -1,17 +1,8 @@
 // The fixture of the tests that draw a row of the system information page and look at how.
 #pragma once
 
+#include "tests/ui/pages/RowDrawing.h"
 #include "tests/ui/pages/sysinfo/ShownSysInfo.h"
-
-struct DrawnText
-{
-    std::wstring text;
-    RECT rect;
-    UINT flags;
-    HGDIOBJ font;
-    COLORREF colour;
-    int mode;
-};
 
 struct DrawnCopy
 {

@@ -6,6 +6,7 @@
 #include "platform/ce/Windows.h"
 
 #include "platform/ce/Aygshell.h"
+#include "platform/ce/Ceshell.h"
 #include "platform/ce/Imaging.h"
 #include "platform/ce/Power.h"
 #include "platform/ce/Storage.h"

@@ -45,6 +45,12 @@ struct SHRGINFO
 
 #define SHCMBF_EMPTYBAR 0x0001 // nToolBarId 0 is refused without it
 
+#define SHRG_RETURNCMD 0x0001 // SHRecognizeGesture answers with the gesture's code
+
+#define SHCMBM_OVERRIDEKEY (WM_USER + 403) // to a menu bar: what a key does while the bar is shown
+#define SHMBOF_NODEFAULT 0x0001            // not what it does without
+#define SHMBOF_NOTIFY 0x0002               // the bar's owner is told by WM_HOTKEY
+
 #define SHIDIM_FLAGS 0x0001
 #define SHIDIF_DONEBUTTON 0x0001
 #define SHIDIF_SIZEDLGFULLSCREEN 0x0004
@@ -60,6 +66,8 @@ __declspec(dllimport) BOOL WINAPI
 __declspec(dllimport) BOOL WINAPI
     SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* info);
 __declspec(dllimport) BOOL WINAPI SHInitDialog(SHINITDLGINFO* info);
+// Waits until the stylus is lifted, moved or held long enough; GN_CONTEXTMENU for the last, else 0.
+__declspec(dllimport) DWORD WINAPI SHRecognizeGesture(SHRGINFO* info);
 __declspec(dllimport) void WINAPI SHSendBackToFocusWindow(UINT message, WPARAM wParam, LPARAM lParam);
 // By its number, 364: the value of a security policy, 0 of one that is not set.
 __declspec(dllimport) HRESULT WINAPI QueryPolicy(DWORD policyId, DWORD* value);

@@ -49,8 +49,9 @@
 #include "platform/ce/DeviceStructures.h"
 #endif
 
-// Windows CE exports this without the W that <windows.h> adds.
+// Windows CE exports these without the W that <windows.h> adds.
 #undef SHGetFileInfo
+#undef ShellExecuteEx
 // Names of the program's own methods.
 #undef LoadImage
 #undef LoadBitmap
@@ -73,4 +74,5 @@
 extern "C" {
 __declspec(dllimport) DWORD_PTR WINAPI
     SHGetFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT infoSize, UINT flags);
+__declspec(dllimport) BOOL WINAPI ShellExecuteEx(SHELLEXECUTEINFOW* info);
 }

@@ -36,6 +36,7 @@ bool CApp::OnCreate()
 {
     CoInitializeEx(nullptr, 0);
     OpenResources();
+    startPrograms.Refill(mainWindow);
     AddPages();
     return true;
 }
@@ -59,7 +60,7 @@ void CApp::AddPages()
 {
     AddPage(new CViewTasks(startPrograms), PageTasks, IDB_TASKS, IDA_TASKS);
     AddPage(new CViewSysInfo(*resources), PageSysInfo, IDB_SYSINFO, IDA_SYSINFO);
-    AddPage(new CViewStart, PageStart, IDB_START, IDA_START);
+    AddPage(new CViewStart(startPrograms), PageStart, IDB_START, IDA_START);
     AddPage(new CViewProcs, PageProcs, IDB_PROCS, IDA_PROCS);
 }
 

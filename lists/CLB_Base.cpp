@@ -153,7 +153,7 @@ void CLB_Base::EraseLikeList(HDC target) const
 
 void CLB_Base::EmptyText(CStr& /*text*/) const {}
 
-bool CLB_Base::BeforeControl(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/)
+bool CLB_Base::BeforeControl(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/, LRESULT& /*result*/)
 {
     return false;
 }

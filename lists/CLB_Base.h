@@ -70,9 +70,9 @@ class CLB_Base
     virtual void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) = 0;
     // The text shown in place of rows; empty for none.
     virtual void EmptyText(CStr& text) const;
-    // The list's own part in a message, before the control's own handling (true: the message is consumed) and
-    // after it. The latter does not come when the list went meanwhile.
-    virtual bool BeforeControl(UINT message, WPARAM wParam, LPARAM lParam);
+    // The list's own part in a message, before the control's own handling (true: the message is consumed,
+    // with this result) and after it. The latter does not come when the list went meanwhile.
+    virtual bool BeforeControl(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
     virtual void AfterControl(UINT message, WPARAM wParam, LPARAM lParam);
 
   private:

@@ -39,10 +39,11 @@ LRESULT CLB_Base::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     default:
         break;
     }
-    if (BeforeControl(message, wParam, lParam)) {
-        return 0;
+    LRESULT result = 0;
+    if (BeforeControl(message, wParam, lParam, result)) {
+        return result;
     }
-    const LRESULT result = Original(message, wParam, lParam);
+    result = Original(message, wParam, lParam);
     if (ListOf(self) == this) {
         if (message == WM_SIZE) {
             buffer.Resize(window, LOWORD(lParam), HIWORD(lParam));

@@ -62,6 +62,14 @@ void CRowPainter::DrawLeft(HFONT font, const wchar_t* text, const RECT& area)
     DrawTextW(target, text, -1, &rect, leftText);
 }
 
+int CRowPainter::Width(HFONT font, const wchar_t* text)
+{
+    UseFont(font);
+    RECT rect = {};
+    DrawTextW(target, text, -1, &rect, DT_CALCRECT | DT_LEFT | DT_SINGLELINE);
+    return rect.right;
+}
+
 int CRowPainter::DrawRight(HFONT font, const wchar_t* text, const RECT& area)
 {
     UseFont(font);

@@ -25,6 +25,8 @@ class CRowPainter
     // The area from rowLeft + the icon's place to the row's right edge.
     RECT TextArea(int iconWidth) const;
     void DrawLeft(HFONT font, const wchar_t* text, const RECT& area);
+    // The width of a text as DrawLeft draws it where there is room, in pixels.
+    int Width(HFONT font, const wchar_t* text);
     // Draws at the right edge of area; the result is the text's width in pixels.
     int DrawRight(HFONT font, const wchar_t* text, const RECT& area);
 

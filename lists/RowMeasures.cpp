@@ -25,11 +25,12 @@ int TitleStripHeight(HFONT boldFont)
     return LineHeight(boldFont) + ScaleY(1) + ScaleY(8);
 }
 
-HFONT CreateSystemFont(LONG weight, LONG extraHeight)
+HFONT CreateSystemFont(LONG weight, LONG extraHeight, bool underlined)
 {
     LOGFONTW font = {};
     GetObjectW(GetStockObject(SYSTEM_FONT), sizeof font, &font);
     font.lfWeight = weight;
     font.lfHeight += extraHeight;
+    font.lfUnderline = underlined ? TRUE : FALSE;
     return CreateFontIndirectW(&font);
 }

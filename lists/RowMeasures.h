@@ -10,4 +10,4 @@ int SingleLineRowHeight(HFONT boldFont, int iconHeight);
 // Height of the title strip above a page's list.
 int TitleStripHeight(HFONT boldFont);
 // The system font with another weight and extraHeight added to its (negative) height.
-HFONT CreateSystemFont(LONG weight, LONG extraHeight);
+HFONT CreateSystemFont(LONG weight, LONG extraHeight, bool underlined = false);

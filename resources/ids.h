@@ -15,6 +15,8 @@
 #define IDS_BAR_MENU 204
 #define IDS_BAR_BLANK 205
 #define IDS_BAR_DONE 206
+#define IDS_BAR_SELECT 207
+#define IDS_BAR_CANCEL 208
 
 // icon of the program
 #define IDI_PROGRAM 101
@@ -26,6 +28,7 @@
 #define IDB_PROCS 171
 #define IDB_INFORMATION 170
 #define IDB_WINDOWS 173
+#define IDB_SELECT_APP 177
 #define IDM_TASKS 134
 #define IDM_SYSINFO 102
 #define IDM_START 136
@@ -47,6 +50,7 @@
 // controls
 #define IDC_LIST 110
 #define IDC_INFORMATION_TEXT 126
+#define IDC_SEARCH 175
 #define IDC_WINDOWS_TREE 1000
 
 // commands shared by the pages
@@ -77,6 +81,11 @@
 #define CMD_APPLICATION_INFO 32799
 #define CMD_CLOSE_APPLICATION 32800
 #define CMD_SWITCH_TO_APPLICATION 32801
+#define CMD_START_APPLICATION 32801 // of the launcher, which has none to switch to
+#define CMD_LAST_ROW 32805
+#define CMD_FIRST_ROW 32806
+#define CMD_PAGE_DOWN 32807
+#define CMD_PAGE_UP 32808
 #define CMD_WINDOW_INFO 0x8022
 
 // commands of the dialogs

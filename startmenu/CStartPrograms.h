@@ -2,20 +2,8 @@
 #pragma once
 
 #include "framework/CRecords.h"
+#include "startmenu/KnownPrograms.h"
 #include "startmenu/SAppsList.h"
-
-// Slots of the table of well-known built-in programs.
-enum KnownProgram : uint32_t
-{
-    KnownContacts = 0,
-    KnownCalendar = 1,
-    KnownTasks = 2,
-    KnownBrowser = 3,
-    KnownPictures = 4,
-    KnownPhone = 5,
-    KnownInternetSharing = 6,
-    KnownNotes = 7
-};
 
 class CStartPrograms
 {
@@ -26,7 +14,18 @@ class CStartPrograms
     CRecords<SAppsList>& Programs() { return programs; }
     CArray<int>& KnownPrograms() { return knownPrograms; }
 
+    // Scans the Start menu anew; no programs when the shell does not tell where it is. The records of before
+    // are gone then, and whatever points to them. owner: a window of the program.
+    void Refill(HWND owner);
+
     // System small-icon index of a well-known program (KnownProgram), asked for once; -1 when it is not
     // installed.
     int KnownIcon(uint32_t slot);
+    // The same of any program's shortcut; -1 when the shell has no icon for it.
+    static int IconOf(SAppsList& program);
+
+  private:
+    void NamePrograms();
+    void SortPrograms();
+    void FindKnownPrograms();
 };

@@ -1,14 +1,22 @@
-// The list of the launcher page; it has no records yet.
+// The list of the launcher page.
 #pragma once
 
-#include "lists/CLB_SingleLine.h"
+#include "startmenu/CLB_Programs.h"
 
-class CLB_Start : public CLB_SingleLine
+class CSearchBox;
+
+class CLB_Start : public CLB_Programs
 {
+    const CSearchBox& search;
+    const HFONT& underlinedFont; // made after the list
+
   public:
-    explicit CLB_Start(const CRowLook& rowLook);
+    CLB_Start(const CRowLook& rowLook, const CArray<SAppsList*>& shownPrograms, const CSearchBox& searchBox,
+              const HFONT& matchFont);
 
   protected:
-    uint32_t RecordCount() const override { return 0; }
-    void DrawRow(HDC target, const RECT& rect, uint32_t row, bool selected) override;
+    // With the part that was searched for underlined.
+    void DrawName(CRowPainter& painter, const CStr& name, const RECT& area) override;
+    void EmptyText(CStr& text) const override;
+    void AfterControl(UINT message, WPARAM wParam, LPARAM lParam) override;
 };

@@ -12,7 +12,7 @@ class HookedList : public TestList
     static constexpr UINT messageOwn = WM_APP + 5;
 
   protected:
-    bool BeforeControl(UINT message, WPARAM wParam, LPARAM lParam) override
+    bool BeforeControl(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& /*result*/) override
     {
         if (message == messageOwn || message == WM_SIZE) {
             Note("before " + Numbers(message, wParam, lParam));

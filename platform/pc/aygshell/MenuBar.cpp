@@ -1,6 +1,7 @@
 // MenuBar: the soft keys.
 #include "platform/pc/aygshell/MenuBar.h"
 
+#include "platform/ce.h"
 #include "platform/pc/common/BarLook.h"
 #include "platform/pc/common/Screen.h"
 #include "platform/pc/common/SoftKeys.h"
@@ -185,6 +186,19 @@ void MenuBar::Paint(handheld::Surface& surface) const
     }
 }
 
+UINT MenuBar::OverrideOf(WPARAM key) const
+{
+    const auto found = overrides.find(key);
+    return found == overrides.end() ? 0 : found->second;
+}
+
+UINT MenuBar::OverrideKey(WPARAM key, UINT mask, UINT bits)
+{
+    const UINT previous = OverrideOf(key);
+    overrides[key] = (previous & ~mask) | (bits & mask);
+    return previous;
+}
+
 LRESULT CALLBACK MenuBar::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     auto* bar = handheld::ObjectOf<MenuBar>(window, message, lParam);
@@ -238,6 +252,10 @@ LRESULT MenuBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     case handheld::WM_PRESS_SOFT_KEY:
         Press(static_cast<int>(wParam));
         return 0;
+    case handheld::WM_ASK_KEY_OVERRIDE:
+        return OverrideOf(wParam);
+    case SHCMBM_OVERRIDEKEY:
+        return OverrideKey(wParam, LOWORD(lParam), HIWORD(lParam));
     default:
         return DefWindowProcW(window, message, wParam, lParam);
     }

@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <array>
+#include <map>
 #include <string>
 
 class MenuBar
@@ -37,6 +38,8 @@ class MenuBar
     void Press(int key);
     void OpenMenu(int key, HMENU menu);
     void Paint(handheld::Surface& surface) const;
+    UINT OverrideOf(WPARAM key) const;
+    UINT OverrideKey(WPARAM key, UINT mask, UINT bits);
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND window = nullptr;
@@ -46,5 +49,6 @@ class MenuBar
     HMENU menu = nullptr; // the bar's menu with a pop-up for each key that has one; destroyed at the end
     HFONT font = nullptr; // deleted at the end
     int pressed = noKey;
+    std::map<WPARAM, UINT> overrides; // SHMBOF_ bits by virtual key
     bool menuOpen = false;
 };

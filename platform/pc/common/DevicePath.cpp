@@ -14,14 +14,22 @@ static std::wstring SystemDrive()
     return std::wstring(folder).substr(0, 2); // "C:"
 }
 
-std::wstring DevicePathBelow(std::wstring_view root, std::wstring_view path)
+static bool IsOnDevice(std::wstring_view path)
 {
-    const bool onDevice = !path.empty() && path[0] == L'\\' && (path.size() == 1 || path[1] != L'\\');
-    return onDevice ? std::wstring(root).append(path) : std::wstring(path);
+    return !path.empty() && path[0] == L'\\' && (path.size() == 1 || path[1] != L'\\');
 }
 
+std::wstring DevicePathBelow(std::wstring_view root, std::wstring_view path)
+{
+    return IsOnDevice(path) ? std::wstring(root).append(path) : std::wstring(path);
+}
+
+// The profile is asked for paths of the device alone: the PC's may be used before it can be read.
 std::wstring DevicePath(std::wstring_view path)
 {
+    if (!IsOnDevice(path)) {
+        return std::wstring(path);
+    }
     static const std::wstring drive = SystemDrive();
     const std::wstring& root = ActiveProfile().root;
     return DevicePathBelow(root.empty() ? drive : root, path);

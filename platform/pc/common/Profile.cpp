@@ -50,6 +50,10 @@ void SetHandheldKey(Profile& profile, const std::wstring& key, std::wstring_view
         SetInt(profile.securityTier, value, 1, 2);
     } else if (key == L"root") {
         profile.root = value.substr(0, value.find_last_not_of(L'\\') + 1);
+    } else if (key == L"start-menu") {
+        profile.startMenu = value;
+    } else if (key == L"hold-ms") {
+        SetInt(profile.holdMilliseconds, value, 1, 60000);
     } else if (key == L"cards") {
         profile.cards = CardNames(value);
     }

@@ -17,6 +17,8 @@ struct Profile
     int dpi = 96;
     int securityTier = 0;            // 1 or 2; 0 leaves it to the failure at hand
     std::wstring root;               // folder without a backslash at its end; empty: the system's drive
+    std::wstring startMenu;          // folder on the device; empty: the PC's own
+    int holdMilliseconds = 1000;     // how long the stylus is held for a tap-and-hold
     std::vector<std::wstring> cards; // folders of the storage cards in the root; a name may be empty
     MemoryScript memory;
     BatteryScript battery;

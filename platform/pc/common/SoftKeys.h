@@ -10,6 +10,9 @@ inline constexpr wchar_t menuBarClass[] = L"menu_worker";
 // To a menu bar: press the soft key wParam, 0 left and 1 right. Sent, never posted.
 inline constexpr UINT WM_PRESS_SOFT_KEY = WM_APP + 1;
 
+// To a menu bar: the SHMBOF_ bits that override the key wParam. Sent, never posted.
+inline constexpr UINT WM_ASK_KEY_OVERRIDE = WM_APP + 2;
+
 // The front-most bar of a window; null when it has none.
 HWND FindMenuBar(HWND owner);
 

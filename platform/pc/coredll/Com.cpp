@@ -3,8 +3,8 @@
 // the thread, when the first object is made.
 #include "platform/pc/coredll/Com.h"
 
+#include "platform/pc/common/SystemFunction.h"
 #include "platform/pc/coredll/Imaging.h"
-#include "platform/pc/coredll/SystemFunction.h"
 
 #include <objbase.h>
 
@@ -39,7 +39,8 @@ extern "C" void WINAPI ce_CoUninitialize()
         return;
     }
     threadCom.hasStarted = false;
-    static auto* const uninitialize = SystemFunction<decltype(CoUninitialize)>(comLibrary, "CoUninitialize");
+    static auto* const uninitialize =
+        handheld::SystemFunction<decltype(CoUninitialize)>(comLibrary, "CoUninitialize");
     uninitialize();
 }
 
@@ -51,7 +52,8 @@ bool HasStartedCom()
 // A thread that has the other model already keeps it; its objects can be made all the same.
 static void StartForThread()
 {
-    static auto* const initialize = SystemFunction<decltype(CoInitializeEx)>(comLibrary, "CoInitializeEx");
+    static auto* const initialize =
+        handheld::SystemFunction<decltype(CoInitializeEx)>(comLibrary, "CoInitializeEx");
     if (HasStartedCom() && !threadCom.hasStarted) {
         threadCom.hasStarted = SUCCEEDED(initialize(nullptr, threadCom.flags));
     }
@@ -60,7 +62,8 @@ static void StartForThread()
 HRESULT CreateComObject(const CLSID& classId, const IID& interfaceId, void** object, IUnknown* outer,
                         DWORD context)
 {
-    static auto* const create = SystemFunction<decltype(CoCreateInstance)>(comLibrary, "CoCreateInstance");
+    static auto* const create =
+        handheld::SystemFunction<decltype(CoCreateInstance)>(comLibrary, "CoCreateInstance");
     StartForThread();
     return create(classId, outer, context, interfaceId, object);
 }

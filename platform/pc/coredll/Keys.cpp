@@ -1,4 +1,5 @@
 // Keys: the message loop's soft keys and the state of a key.
+#include "platform/pc/common/OverriddenKeys.h"
 #include "platform/pc/common/SoftKeys.h"
 
 extern "C" BOOL WINAPI ce_GetMessageW(MSG* message, HWND window, UINT first, UINT last)
@@ -6,7 +7,7 @@ extern "C" BOOL WINAPI ce_GetMessageW(MSG* message, HWND window, UINT first, UIN
     const BOOL result = GetMessageW(message, window, first, last);
     // The caller gets something for a soft key too: its window may have gone below the key's menu, and then
     // no other message would ever let it notice.
-    if (result > 0 && handheld::HandleSoftKey(*message)) {
+    if (result > 0 && !handheld::GiveOverriddenKey(*message) && handheld::HandleSoftKey(*message)) {
         message->message = WM_NULL;
     }
     return result;

@@ -1,6 +1,4 @@
-// Paths of programs and names of files.
-#include "platform/pc/common/DevicePath.h"
-#include "platform/pc/common/FindPattern.h"
+// Paths of programs and libraries.
 #include "platform/pc/common/ProcessPath.h"
 
 // Modules lie on 64 KB borders; anything else in a module's place is a process id, as a device takes it. (A
@@ -30,11 +28,6 @@ static DWORD PathOfProcess(DWORD process, wchar_t* path, DWORD size)
     return static_cast<DWORD>(known.size());
 }
 
-static bool IsDots(const wchar_t* name)
-{
-    return lstrcmpW(name, L".") == 0 || lstrcmpW(name, L"..") == 0;
-}
-
 static const wchar_t* NamePart(const wchar_t* path)
 {
     const wchar_t* name = path;
@@ -52,27 +45,6 @@ extern "C" DWORD WINAPI ce_GetModuleFileNameW(HMODULE module, wchar_t* path, DWO
         return PathOfProcess(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(module)), path, size);
     }
     return GetModuleFileNameW(module, path, size);
-}
-
-// The PC's search also yields "." and ".." and takes "*.lnk" for "a.lnkx".
-extern "C" HANDLE WINAPI ce_FindFirstFileW(const wchar_t* pattern, WIN32_FIND_DATAW* data)
-{
-    if (!pattern) {
-        SetLastError(ERROR_PATH_NOT_FOUND);
-        return INVALID_HANDLE_VALUE;
-    }
-    const HANDLE search = FindFirstFileW(handheld::DevicePath(pattern).c_str(), data);
-    if (search == INVALID_HANDLE_VALUE) {
-        return search;
-    }
-    while (IsDots(data->cFileName) || !handheld::MatchesPattern(data->cFileName, NamePart(pattern))) {
-        if (!FindNextFileW(search, data)) {
-            FindClose(search);
-            SetLastError(ERROR_FILE_NOT_FOUND);
-            return INVALID_HANDLE_VALUE;
-        }
-    }
-    return search;
 }
 
 // The libraries of the device lie beside this one, wherever the program was started from.

@@ -1,10 +1,11 @@
 // The shell's small icons: one list for the whole program, with fixed icons in front and the programs' own
 // behind them. The PC's list has no such fixed places, has none at all for "\" under Wine, and takes programs
 // there for documents as long as no file types are registered.
+#include "platform/pc/common/DevicePath.h"
 #include "platform/pc/common/Screen.h"
+#include "platform/pc/common/Shortcut.h"
+#include "platform/pc/common/SystemFunction.h"
 #include "platform/pc/coredll/IconPainter.h"
-#include "platform/pc/coredll/ShortcutTarget.h"
-#include "platform/pc/coredll/SystemFunction.h"
 
 #include <commctrl.h>
 #include <shellapi.h>
@@ -16,11 +17,10 @@
 static constexpr size_t mostPrograms = 1000; // a bound on what a program can make the list hold
 static constexpr int noIcon = -1;
 
-static std::wstring Folded(const wchar_t* path)
+static std::wstring Folded(std::wstring path)
 {
-    std::wstring folded(path);
-    CharLowerW(folded.data());
-    return folded;
+    CharLowerW(path.data());
+    return path;
 }
 
 static bool IsDrive(const wchar_t* path)
@@ -59,15 +59,16 @@ class IconList
         if (lstrcmpW(path, L"\\") == 0) {
             return IconFolder;
         }
-        const std::wstring key = Folded(path);
+        const std::wstring file = handheld::DevicePath(path);
+        const std::wstring key = Folded(file);
         if (const auto known = indexes.find(key); known != indexes.end()) {
             return known->second;
         }
-        const DWORD attributes = GetFileAttributesW(path);
+        const DWORD attributes = GetFileAttributesW(file.c_str());
         if (attributes == INVALID_FILE_ATTRIBUTES) {
             return noIcon;
         }
-        const int index = Find(path, attributes);
+        const int index = Find(file.c_str(), attributes);
         if (indexes.size() < mostPrograms) {
             indexes.emplace(key, index);
         }
@@ -80,11 +81,12 @@ class IconList
         if (attributes & FILE_ATTRIBUTE_DIRECTORY) {
             return IsDrive(path) ? IconDrive : IconFolder;
         }
-        if (HasExtension(path, L".lnk")) {
-            const std::wstring target = ShortcutTarget(path);
+        if (handheld::HasShortcutExtension(path)) {
+            handheld::Shortcut shortcut;
             // A shortcut to a shortcut could lead round in a circle.
-            const bool leadsOn = !target.empty() && !HasExtension(target.c_str(), L".lnk");
-            const int index = leadsOn ? IndexOf(target.c_str()) : noIcon;
+            const bool leadsOn =
+                handheld::ReadShortcut(path, shortcut) && !handheld::HasShortcutExtension(shortcut.path);
+            const int index = leadsOn ? IndexOf(shortcut.path.c_str()) : noIcon;
             return index == noIcon ? static_cast<int>(IconShortcut) : index;
         }
         return HasExtension(path, L".exe") ? OwnIcon(path) : static_cast<int>(IconDocument);
@@ -117,7 +119,8 @@ extern "C" DWORD_PTR WINAPI ce_SHGetFileInfo(const wchar_t* path, DWORD attribut
                                              UINT infoSize, UINT flags)
 {
     if (flags != (SHGFI_SYSICONINDEX | SHGFI_SMALLICON)) {
-        static auto* const ask = SystemFunction<decltype(SHGetFileInfoW)>(L"shell32.dll", "SHGetFileInfoW");
+        static auto* const ask =
+            handheld::SystemFunction<decltype(SHGetFileInfoW)>(L"shell32.dll", "SHGetFileInfoW");
         return ask ? ask(path, attributes, info, infoSize, flags) : 0;
     }
     if (!path || !*path || !info) {

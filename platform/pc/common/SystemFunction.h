@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+namespace handheld {
+
 // Null on a system that lacks it.
 template <typename Function>
 Function* SystemFunction(const wchar_t* library, const char* name)
@@ -12,3 +14,5 @@ Function* SystemFunction(const wchar_t* library, const char* name)
     return module ? reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)))
                   : nullptr;
 }
+
+} // namespace handheld

@@ -95,6 +95,10 @@ static bool OpenDocument(const Start& start, const SHELLEXECUTEINFOW& info, HAND
     own.lpDirectory = OrNull(start.folder);
     own.nShow = info.nShow;
     if (!execute || !execute(&own)) {
+        // Wine 8.0 tries to run a file that no program opens.
+        if (GetLastError() == ERROR_BAD_EXE_FORMAT) {
+            SetLastError(ERROR_NO_ASSOCIATION);
+        }
         return false;
     }
     process = own.hProcess;

@@ -3,6 +3,7 @@
 
 #include "app/CApp.h"
 #include "pages/procs/CViewProcs.h"
+#include "pages/start/CViewStart.h"
 #include "pages/sysinfo/CViewSysInfo.h"
 #include "pages/tasks/CViewTasks.h"
 
@@ -24,6 +25,8 @@ class BenchApp : public CApp
 
     CViewTasks& Tasks() { return *static_cast<CViewTasks*>(FindView(PageTasks)); }
     CViewSysInfo& SysInfo() { return *static_cast<CViewSysInfo*>(FindView(PageSysInfo)); }
+    CViewStart& Launcher() { return *static_cast<CViewStart*>(FindView(PageStart)); }
+    CStartPrograms& StartPrograms() { return startPrograms; }
     CViewProcs& Procs() { return *static_cast<CViewProcs*>(FindView(PageProcs)); }
     static HWND ListOf(const CListPage& page) { return GetDlgItem(page.Window(), IDC_LIST); }
 

@@ -96,7 +96,7 @@ static bool Measure(BenchApp& app, Crowd& crowd)
     }
     app.ActivateView(PageSysInfo);
     bench::MeasureRepaint(app.SysInfo(), "gauge");
-    return MeasureProcesses(app, crowd);
+    return bench::MeasureLauncher(app) && MeasureProcesses(app, crowd);
 }
 
 int wmain()

@@ -16,6 +16,10 @@ bool MeasureRebuild(BenchApp& app, int windows);
 // The same of the processes that there are.
 bool MeasureProcesses(BenchApp& app);
 
+// A search as it is typed, and the reading of the Start menu, with a thousand programs more than there are.
+// False when they could not be made or not all were found.
+bool MeasureLauncher(BenchApp& app);
+
 // Painting one row's rectangle, the third row's of the shown part, against painting the list, and how many
 // rows are drawn for each. The page is the active one; row: what its rows are called in the table.
 void MeasureRepaint(const CListPage& page, const std::string& row);

@@ -54,7 +54,7 @@ TEST_F(ImportTablesTest, TablesWithoutAnEndAreFound)
 {
     const ImportLibrary& library = Library("aygshell.dll");
     PutImport("aygshell.dll", library.lookups.size(), library.lookups.at(0));
-    ExpectFault(image, "coredll.dll: its addresses do not begin where those before end");
+    ExpectFault(image, "ceshell.dll: its addresses do not begin where those before end");
 }
 
 TEST_F(ImportTablesTest, DirectoryWithoutItsTerminatorIsFound)

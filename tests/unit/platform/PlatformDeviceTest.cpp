@@ -99,6 +99,11 @@ TEST(PlatformDeviceTest, LetterCaseIsKnownInEveryScript)
     EXPECT_LT(_wcsicmp(L"Alpha", L"beta"), 0);
     EXPECT_GT(_wcsicmp(L"Beta", L"alpha"), 0);
     EXPECT_LT(_wcsicmp(L"a", L"AB"), 0);
+    // A character outside the first plane is two.
+    wchar_t face[] = L"\xD83D\xDE00Z";
+    EXPECT_STREQ(_wcslwr(face), L"\xD83D\xDE00z");
+    EXPECT_EQ(_wcsicmp(L"\xD83D\xDE00Z", L"\xD83D\xDE00z"), 0);
+    EXPECT_NE(_wcsicmp(L"\xD83D\xDE00", L"\xD83D\xDE01"), 0);
 }
 
 TEST(PlatformDeviceTest, AKeyThatIsUpIsZero)

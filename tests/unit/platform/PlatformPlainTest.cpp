@@ -81,6 +81,19 @@ TEST_F(PlatformPlainTest, FilesOfTheRootAreFoundFromEveryDrive)
     EXPECT_TRUE(FindClose(search));
 }
 
+TEST_F(PlatformPlainTest, TheStartMenuIsThePcs)
+{
+    IMalloc* allocator = nullptr;
+    ITEMIDLIST* item = nullptr;
+    wchar_t path[MAX_PATH] = {};
+    ASSERT_EQ(SHGetMalloc(&allocator), S_OK);
+    ASSERT_EQ(SHGetSpecialFolderLocation(nullptr, CSIDL_STARTMENU, &item), S_OK);
+    EXPECT_TRUE(SHGetPathFromIDList(item, path));
+    allocator->Free(item);
+    allocator->Release();
+    EXPECT_NE(std::wstring(path).find(L"\\Microsoft\\Windows\\Start Menu"), std::wstring::npos) << path;
+}
+
 TEST_F(PlatformPlainTest, ThereAreNoCards)
 {
     WIN32_FIND_DATAW card = {};

@@ -97,6 +97,24 @@ TEST_F(PlatformScriptedTest, FilesAreFoundBelowTheWrittenRoot)
     EXPECT_EQ(FindFirstFileW(L"\\windows", &data), INVALID_HANDLE_VALUE);
 }
 
+TEST_F(PlatformScriptedTest, TheRootIsSearchedAndFilesAreOpenedBelowIt)
+{
+    WIN32_FIND_DATAW data = {};
+    bool found = false;
+    const HANDLE search =
+        FindFirstFileExW(L"\\*", FindExInfoStandard, &data, FindExSearchLimitToDirectories, nullptr, 0);
+    ASSERT_NE(search, INVALID_HANDLE_VALUE);
+    do {
+        found = found || _wcsicmp(data.cFileName, L"system32") == 0;
+    } while (FindNextFileW(search, &data));
+    EXPECT_TRUE(FindClose(search));
+    EXPECT_TRUE(found);
+    const HANDLE file =
+        CreateFileW(L"\\win.ini", GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(file, INVALID_HANDLE_VALUE) << "error " << GetLastError();
+    CloseHandle(file);
+}
+
 TEST_F(PlatformScriptedTest, TheCardsComeInOrderAlsoTheOneWithoutAName)
 {
     const std::vector<std::wstring> names = {L"First Card", L"", L"Last"};

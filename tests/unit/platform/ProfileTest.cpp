@@ -16,6 +16,8 @@ TEST(ProfileTest, AnEmptyTextIsAPocketPc)
     EXPECT_EQ(profile.securityTier, 0);
     EXPECT_TRUE(profile.cards.empty());
     EXPECT_EQ(profile.root, L"");
+    EXPECT_EQ(profile.startMenu, L"");
+    EXPECT_EQ(profile.holdMilliseconds, 1000);
     EXPECT_FALSE(profile.IsSmartphone());
 }
 
@@ -24,7 +26,8 @@ TEST(ProfileTest, TheHandheldSectionSetsEveryField)
     const Profile profile =
         ParseProfile(L"; a comment\r\n[HandHeld]\r\n platform = SmartPhone \r\nWidth=480\r\n"
                      L"height = 640\r\ndpi=192\r\ntier=2\r\n"
-                     L"cards = \\Storage Card, CF Card\r\nroot = D:\\Device\\\r\n");
+                     L"cards = \\Storage Card, CF Card\r\nroot = D:\\Device\\\r\n"
+                     L"start-menu = \\Windows\\Start Menu\r\nhold-ms = 300\r\n");
     EXPECT_EQ(profile.platformName, L"SmartPhone");
     EXPECT_TRUE(profile.IsSmartphone());
     EXPECT_EQ(profile.width, 480);
@@ -35,6 +38,8 @@ TEST(ProfileTest, TheHandheldSectionSetsEveryField)
     EXPECT_EQ(profile.cards[0], L"Storage Card");
     EXPECT_EQ(profile.cards[1], L"CF Card");
     EXPECT_EQ(profile.root, L"D:\\Device");
+    EXPECT_EQ(profile.startMenu, L"\\Windows\\Start Menu");
+    EXPECT_EQ(profile.holdMilliseconds, 300);
 }
 
 TEST(ProfileTest, TheLastLineNeedsNoEndAndTheFirstMayHaveAByteOrderMark)

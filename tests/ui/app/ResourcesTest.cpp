@@ -127,6 +127,8 @@ TEST(ResourcesTest, TheStringTable)
     EXPECT_EQ(String(204), L"Menu");
     EXPECT_EQ(String(205), L" ");
     EXPECT_EQ(String(206), L"Done");
+    EXPECT_EQ(String(207), L"Select");
+    EXPECT_EQ(String(208), L"Cancel");
 }
 
 TEST(ResourcesTest, TheMenuOfTheRunningApplications)
@@ -140,6 +142,12 @@ TEST(ResourcesTest, TheMenuOfTheSystemInformation)
 {
     EXPECT_EQ(Menu(102),
               PageMenu({L"32785 Memory information", L"32786 Battery information", L"-", L"32793 Refresh"}));
+}
+
+TEST(ResourcesTest, TheMenuOfTheLauncher)
+{
+    EXPECT_EQ(Menu(136),
+              PageMenu({L"32801 Start application", L"32799 Application info", L"-", L"32793 Refresh"}));
 }
 
 TEST(ResourcesTest, TheMenuOfTheProcesses)
@@ -191,6 +199,8 @@ TEST(ResourcesTest, TheSoftKeysOfTheDialogs)
                                    0xFFFE, 2, 4, 0x10, 205, 0, 0xFFFF}));
     EXPECT_EQ(MenuBar(173), (Words{173, 2, 0xFFFE, 1, 4, 0x10, 206, 0, 0xFFFF, //
                                    0xFFFE, 113, 4, 0x18, 204, 0, 0}));
+    EXPECT_EQ(MenuBar(177), (Words{0, 2, 0xFFFE, 1, 4, 0x10, 207, 0, 0xFFFF, //
+                                   0xFFFE, 2, 4, 0x10, 208, 0, 0xFFFF}));
 }
 
 TEST(ResourcesTest, TheKeysOfTheProgram)
@@ -205,7 +215,20 @@ TEST(ResourcesTest, TheKeysOfThePages)
     EXPECT_EQ(Accelerators(33595), ring);
     EXPECT_EQ(Accelerators(33594),
               (std::vector<Key>{{VK_LEFT, 32774}, {VK_RIGHT, 32775}, {VK_UP, 32787}, {VK_DOWN, 32788}}));
-    EXPECT_FALSE(Accelerators(137).empty());
+}
+
+// None that a letter is typed or erased with.
+TEST(ResourcesTest, TheKeysOfTheLauncher)
+{
+    EXPECT_EQ(Accelerators(137), (std::vector<Key>{{VK_LEFT, 32774},
+                                                   {VK_RIGHT, 32775},
+                                                   {VK_UP, 32787},
+                                                   {VK_DOWN, 32788},
+                                                   {VK_END, 32805},
+                                                   {VK_HOME, 32806},
+                                                   {VK_NEXT, 32807},
+                                                   {VK_PRIOR, 32808},
+                                                   {VK_RETURN, 114}}));
 }
 
 TEST(ResourcesTest, TheKeysOfTheInformationDialog)

@@ -8,14 +8,18 @@ class HookedList : public TestList
 {
   public:
     bool consumes = false;
+    LRESULT answer = 0; // of a consumed message
 
     static constexpr UINT messageOwn = WM_APP + 5;
 
   protected:
-    bool BeforeControl(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& /*result*/) override
+    bool BeforeControl(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override
     {
         if (message == messageOwn || message == WM_SIZE) {
             Note("before " + Numbers(message, wParam, lParam));
+        }
+        if (consumes) {
+            result = answer;
         }
         return consumes;
     }
@@ -90,8 +94,11 @@ TEST_F(ListHooksTest, TheControlHandlesAMessageBetweenTheHooksAndItsResultCounts
 TEST_F(ListHooksTest, AConsumedMessageReachesNeitherTheControlNorTheHookAfterIt)
 {
     list->consumes = true;
-    EXPECT_EQ(SendMessageW(control, messageOwn, 7, -8), 0);
-    EXPECT_EQ(TakeEvents(), (Events{Own("before ")}));
+    for (const LRESULT answer : {0, 4711, -1}) {
+        list->answer = answer;
+        EXPECT_EQ(SendMessageW(control, messageOwn, 7, -8), answer);
+        EXPECT_EQ(TakeEvents(), (Events{Own("before ")}));
+    }
     list->consumes = false;
 }
 

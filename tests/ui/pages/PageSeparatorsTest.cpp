@@ -1,6 +1,8 @@
 // Which pages have strips between their rows: all but the system information.
+#include "dialogs/CLB_SelectApp.h"
 #include "pages/procs/CLB_Procs.h"
 #include "pages/start/CLB_Start.h"
+#include "pages/start/CSearchBox.h"
 #include "pages/sysinfo/CLB_Memory.h"
 #include "pages/tasks/CLB_Tasks.h"
 #include "tests/ui/UiTest.h"
@@ -72,7 +74,12 @@ TEST_F(PageSeparatorsTest, TheSingleLineListsHaveThem)
     EXPECT_GE(tasks, 5U);
     EXPECT_LE(tasks, 6U);
     ForgetClasses();
-    EXPECT_EQ(Strips<CLB_Start>(), tasks);
+    const CArray<SAppsList*> shown;
+    const CSearchBox search;
+    const HFONT underlined = nullptr;
+    EXPECT_EQ(Strips<CLB_Start>(shown, search, underlined), tasks);
+    ForgetClasses();
+    EXPECT_EQ(Strips<CLB_SelectApp>(shown), tasks);
     ForgetClasses();
     const CRecords<SProcInfo> processes;
     EXPECT_EQ(Strips<CLB_Procs>(processes), tasks);

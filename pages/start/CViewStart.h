@@ -27,6 +27,7 @@ class CViewStart : public CListPage
     void FillContents(int row) override;
 
     uint32_t ProgramCount() const { return shown.Count(); }
+    const SAppsList& Program(uint32_t row) const { return *shown.At(row); }
 
   protected:
     CLB_Base& List() override { return list; }

@@ -19,9 +19,9 @@ void CDialogSelectApp::OnInitDialog()
     SetWindowTextW(window, L"Select an application");
     look.Create(0, 0);
     list.Construct(window);
-    FillWithList();
-    SetFocus(list.Window());
     list.SetCount(list.RecordCount());
+    FillWithList(); // now that it is known whether the rows need a scroll bar
+    SetFocus(list.Window());
     if (list.Count() > 0) {
         list.SelectRow(0);
     }

@@ -6,7 +6,7 @@
 
 using Calls = std::vector<std::wstring>;
 
-class StartMenuFolderTest : public testing::Test
+class FindStartMenuTest : public testing::Test
 {
   protected:
     ScriptedStartMenu menu;
@@ -30,7 +30,7 @@ class StartMenuFolderTest : public testing::Test
     }
 };
 
-TEST_F(StartMenuFolderTest, TheShellIsAskedInOrderAndGetsBackWhatItGave)
+TEST_F(FindStartMenuTest, TheShellIsAskedInOrderAndGetsBackWhatItGave)
 {
     const HWND owner = reinterpret_cast<HWND>(0x4321);
     CStr path;
@@ -42,25 +42,25 @@ TEST_F(StartMenuFolderTest, TheShellIsAskedInOrderAndGetsBackWhatItGave)
     EXPECT_EQ(menu.allocators, 0);
 }
 
-TEST_F(StartMenuFolderTest, WithoutTheAllocatorNothingElseIsAsked)
+TEST_F(FindStartMenuTest, WithoutTheAllocatorNothingElseIsAsked)
 {
     menu.allocatorAnswer = E_OUTOFMEMORY;
     ExpectNoFolder({L"allocator"});
 }
 
-TEST_F(StartMenuFolderTest, WithoutALocationTheAllocatorIsReleased)
+TEST_F(FindStartMenuTest, WithoutALocationTheAllocatorIsReleased)
 {
     menu.locationAnswer = E_FAIL;
     ExpectNoFolder({L"allocator", L"location 11", L"release"});
 }
 
-TEST_F(StartMenuFolderTest, WithoutAPathTheListIsFreedAllTheSame)
+TEST_F(FindStartMenuTest, WithoutAPathTheListIsFreedAllTheSame)
 {
     menu.givesPath = false;
     ExpectNoFolder({L"allocator", L"location 11", L"path", L"free", L"release"});
 }
 
-TEST_F(StartMenuFolderTest, NoListIsNotFreed)
+TEST_F(FindStartMenuTest, NoListIsNotFreed)
 {
     menu.givesItem = false;
     menu.givesPath = false;
@@ -71,14 +71,14 @@ TEST_F(StartMenuFolderTest, NoListIsNotFreed)
     EXPECT_EQ(menu.calls, (Calls{L"allocator", L"location 11", L"path of nothing", L"release"}));
 }
 
-TEST_F(StartMenuFolderTest, OtherSuccessesAreSuccessesToo)
+TEST_F(FindStartMenuTest, OtherSuccessesAreSuccessesToo)
 {
     menu.allocatorAnswer = S_FALSE;
     menu.locationAnswer = S_FALSE;
     EXPECT_EQ(Told(L"\\Menu"), L"\\Menu\\");
 }
 
-TEST_F(StartMenuFolderTest, OneBackslashStandsAtTheEnd)
+TEST_F(FindStartMenuTest, OneBackslashStandsAtTheEnd)
 {
     EXPECT_EQ(Told(L"\\Menu\\"), L"\\Menu\\");
     EXPECT_EQ(Told(L"\\"), L"\\");
@@ -86,7 +86,7 @@ TEST_F(StartMenuFolderTest, OneBackslashStandsAtTheEnd)
     EXPECT_EQ(Told(L"\\Menu/"), L"\\Menu/\\");
 }
 
-TEST_F(StartMenuFolderTest, APathOfTheWholeRoomIsTold)
+TEST_F(FindStartMenuTest, APathOfTheWholeRoomIsTold)
 {
     const std::wstring longest = L"\\" + std::wstring(258, L'm');
     EXPECT_EQ(Told(longest), longest + L"\\");

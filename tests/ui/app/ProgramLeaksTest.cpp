@@ -1,6 +1,7 @@
-// What a long life of the program leaves behind: nothing.
+// What a long life of the program leaves behind: nothing but the font that is to stay.
 #include "resources/ids.h"
 #include "tests/support/ObjectCounts.h"
+#include "tests/ui/KeptFonts.h"
 #include "tests/ui/LeakCheck.h"
 #include "tests/ui/ProgramTest.h"
 
@@ -109,8 +110,12 @@ TEST_F(ProgramLeaksTest, NoticesLeaveNothing)
     });
 }
 
-TEST_F(ProgramLeaksTest, AWholeLifeOfTheProgramLeavesNothing)
+TEST_F(ProgramLeaksTest, AWholeLifeOfTheProgramLeavesNothingElse)
 {
     AddTask(L"Task");
-    ExpectNothingLeft(10, [&] { InProgram([](ProgramApp& app) { app.ShowPage(4); }); });
+    KeptFonts fonts;
+    ExpectNothingLeft(10, [&] {
+        InProgram([](ProgramApp& app) { app.ShowPage(4); });
+        EXPECT_TRUE(fonts.Delete());
+    });
 }

@@ -63,7 +63,7 @@ void RowDrawing::Draw(UINT state, const std::function<void(HDC)>& check, UINT it
     request.hwndItem = list;
     request.hDC = target;
     request.rcItem = row;
-    EXPECT_EQ(SendMessageW(page, WM_DRAWITEM, IDC_LIST, reinterpret_cast<LPARAM>(&request)), TRUE);
+    EXPECT_EQ(SendMessageW(page, WM_DRAWITEM, IDC_LIST, reinterpret_cast<LPARAM>(&request)), answer);
 
     EXPECT_EQ(GetTextColor(target), RGB(1, 2, 3));
     EXPECT_EQ(GetBkColor(target), RGB(4, 5, 6));

@@ -27,6 +27,7 @@ class RowDrawing
 {
     HWND page;
     HWND list;
+    LRESULT answer;
 
   public:
     static constexpr RECT row = {2, 40, 202, 40 + 50};     // in the bitmap
@@ -34,8 +35,11 @@ class RowDrawing
 
     std::vector<DrawnText> texts; // of the last row, in the order of drawing
 
-    RowDrawing(HWND drawingPage, HWND drawnList) : page(drawingPage), list(drawnList) {}
+    // owner: of the list. expectedAnswer: its to the request; a dialog's is 0.
+    RowDrawing(HWND owner, HWND drawnList, LRESULT expectedAnswer = TRUE)
+        : page(owner), list(drawnList), answer(expectedAnswer)
+    {}
 
-    // Asks the page for a row; the device context must be left as it was. check sees the bitmap.
+    // Asks the owner for a row; the device context must be left as it was. check sees the bitmap.
     void Draw(UINT state, const std::function<void(HDC)>& check = nullptr, UINT item = 0);
 };

@@ -1,5 +1,6 @@
 // What a long life of the processes page leaves behind: nothing but the handles that it is to leave open.
 #include "tests/support/ChildProgram.h"
+#include "tests/ui/KeptFonts.h"
 #include "tests/ui/LeakCheck.h"
 #include "tests/ui/pages/procs/ProcsTest.h"
 
@@ -158,5 +159,9 @@ TEST_F(ProcLeaksTest, ATerminationLeavesNoHandle)
 TEST_F(ProcLeaksTest, TheEndOfThePageLeavesNothingOfIt)
 {
     AddProcesses(25);
-    ExpectNothingLeft(10, [&] { OnPage([](ProgramApp& app) { EXPECT_EQ(Count(app), 25); }); });
+    KeptFonts fonts;
+    ExpectNothingLeft(10, [&] {
+        OnPage([](ProgramApp& app) { EXPECT_EQ(Count(app), 25); });
+        EXPECT_TRUE(fonts.Delete());
+    });
 }

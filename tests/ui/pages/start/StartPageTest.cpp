@@ -1,18 +1,6 @@
 // The fixture of the tests of the launcher page.
 #include "tests/ui/pages/start/StartPageTest.h"
 
-StartPageTest::StartPageTest()
-{
-    createFont.instead = [this](const LOGFONTW* description) {
-        HFONT font = createFont.Real(description);
-        fonts.push_back(*description);
-        if (description->lfUnderline != 0) {
-            underlined.push_back(font);
-        }
-        return font;
-    };
-}
-
 int StartPageTest::OnPage(const std::function<void(ProgramApp&)>& test)
 {
     return InProgram([&](ProgramApp& app) {

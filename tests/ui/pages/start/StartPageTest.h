@@ -4,6 +4,7 @@
 
 #include "pages/start/CViewStart.h"
 #include "tests/support/ScriptedStartMenu.h"
+#include "tests/ui/KeptFonts.h"
 #include "tests/ui/ProgramTest.h"
 
 class StartPageTest : public ProgramTest
@@ -35,12 +36,7 @@ class StartPageTest : public ProgramTest
     static void ExpectSelected(ProgramApp& app, int row);
     static void Run(ProgramApp& app, UINT command) { SendMessageW(app.MainWindow(), WM_COMMAND, command, 0); }
     // The font that matches are drawn with.
-    HGDIOBJ Underlined() const { return underlined.empty() ? nullptr : underlined.back(); }
+    HGDIOBJ Underlined() const { return fonts.underlined.empty() ? nullptr : fonts.underlined.back(); }
 
-    std::vector<HGDIOBJ> underlined; // fonts that were made
-    std::vector<LOGFONTW> fonts;     // all that were made
-
-    SPY(CreateFontIndirectW) createFont;
-
-    StartPageTest();
+    KeptFonts fonts;
 };

@@ -1,4 +1,5 @@
 // What a long life of the system information page leaves behind: nothing.
+#include "tests/ui/KeptFonts.h"
 #include "tests/ui/LeakCheck.h"
 #include "tests/ui/pages/sysinfo/ShownSysInfo.h"
 
@@ -72,5 +73,9 @@ TEST_F(SysInfoLeaksTest, ReportsLeaveNothing)
 TEST_F(SysInfoLeaksTest, TheEndOfThePageLeavesNothingOfIt)
 {
     device.AddCards(12);
-    ExpectNothingLeft(10, [&] { OnPage([](ProgramApp& app) { EXPECT_EQ(Page(app).RowCount(), 15u); }); });
+    KeptFonts fonts;
+    ExpectNothingLeft(10, [&] {
+        OnPage([](ProgramApp& app) { EXPECT_EQ(Page(app).RowCount(), 15u); });
+        EXPECT_TRUE(fonts.Delete());
+    });
 }

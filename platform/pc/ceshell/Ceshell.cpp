@@ -1,9 +1,8 @@
 // The exports of the ceshell substitute.
 #include "platform/pc/ceshell/Allocator.h"
-#include "platform/pc/common/ActiveProfile.h"
 #include "platform/pc/common/DevicePath.h"
 #include "platform/pc/common/Shortcut.h"
-#include "platform/pc/common/SystemFunction.h"
+#include "platform/pc/common/SpecialFolder.h"
 
 #include <shlobj.h>
 
@@ -12,23 +11,6 @@ struct SShellItem
 {
     wchar_t path[MAX_PATH];
 };
-
-static bool FindFolder(int folder, std::wstring& path)
-{
-    const std::wstring& startMenu = handheld::ActiveProfile().startMenu;
-    if (folder == CSIDL_STARTMENU && !startMenu.empty()) {
-        path = startMenu;
-        return true;
-    }
-    static auto* const ask = handheld::SystemFunction<decltype(SHGetSpecialFolderPathW)>(
-        L"shell32.dll", "SHGetSpecialFolderPathW");
-    wchar_t pcPath[MAX_PATH] = {};
-    if (!ask || !ask(nullptr, pcPath, folder, FALSE)) {
-        return false;
-    }
-    path = pcPath;
-    return true;
-}
 
 extern "C" HRESULT WINAPI ce_SHGetMalloc(IMalloc** allocator)
 {
@@ -46,7 +28,7 @@ extern "C" HRESULT WINAPI ce_SHGetSpecialFolderLocation(HWND, int folder, SShell
         return E_INVALIDARG;
     }
     *item = nullptr;
-    if (!FindFolder(folder, path) || path.size() >= MAX_PATH) {
+    if (!handheld::FindSpecialFolder(folder, path) || path.size() >= MAX_PATH) {
         return E_FAIL;
     }
     auto* const made = static_cast<SShellItem*>(ShellAllocator()->Alloc(sizeof(SShellItem)));

@@ -1,0 +1,112 @@
+// Starting programs and documents.
+#include "platform/pc/common/StartFile.h"
+
+#include "platform/pc/common/ComScope.h"
+#include "platform/pc/common/DevicePath.h"
+#include "platform/pc/common/Shortcut.h"
+#include "platform/pc/common/SystemFunction.h"
+
+#include <shellapi.h>
+
+namespace handheld {
+
+// A chain of more shortcuts than this is taken for a circle.
+static constexpr int mostShortcuts = 8;
+
+static const wchar_t* OrNull(const std::wstring& text)
+{
+    return text.empty() ? nullptr : text.c_str();
+}
+
+static std::wstring Joined(const std::wstring& one, const std::wstring& other)
+{
+    return one.empty() || other.empty() ? one + other : one + L' ' + other;
+}
+
+// Follows shortcuts until something else is reached.
+static bool FollowShortcuts(StartRequest& start)
+{
+    for (int followed = 0; HasShortcutExtension(start.file); ++followed) {
+        Shortcut shortcut;
+        if (followed == mostShortcuts) {
+            SetLastError(ERROR_TOO_MANY_LINKS);
+            return false;
+        }
+        if (GetFileAttributesW(start.file.c_str()) == INVALID_FILE_ATTRIBUTES) {
+            return false;
+        }
+        if (!ReadShortcut(start.file, shortcut)) {
+            SetLastError(ERROR_BAD_FORMAT);
+            return false;
+        }
+        start.file = DevicePath(shortcut.path);
+        start.arguments = Joined(shortcut.arguments, start.arguments);
+        if (start.folder.empty()) {
+            start.folder = shortcut.folder;
+        }
+    }
+    return true;
+}
+
+// A name without an extension is a program's too.
+static bool IsProgram(const std::wstring& file)
+{
+    const size_t dot = file.find_last_of(L".\\/");
+    return dot == std::wstring::npos || file[dot] != L'.' || lstrcmpiW(file.c_str() + dot, L".exe") == 0;
+}
+
+static bool StartProgram(const StartRequest& start, HANDLE& process)
+{
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = static_cast<WORD>(start.show);
+    PROCESS_INFORMATION started = {};
+    std::wstring command = Joined(L'"' + start.file + L'"', start.arguments);
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, OrNull(start.folder),
+                        &startup, &started)) {
+        return false;
+    }
+    CloseHandle(started.hThread);
+    process = started.hProcess;
+    return true;
+}
+
+// What opens a document is the PC's business.
+static bool OpenDocument(const StartRequest& start, HANDLE& process)
+{
+    static auto* const execute = SystemFunction<decltype(ShellExecuteExW)>(L"shell32.dll", "ShellExecuteExW");
+    const ComScope com;
+    SHELLEXECUTEINFOW own = {};
+    own.cbSize = sizeof own;
+    own.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI | SEE_MASK_NOASYNC;
+    own.hwnd = start.owner;
+    own.lpVerb = start.verb;
+    own.lpFile = start.file.c_str();
+    own.lpParameters = OrNull(start.arguments);
+    own.lpDirectory = OrNull(start.folder);
+    own.nShow = start.show;
+    if (!execute || !execute(&own)) {
+        // Wine 8.0 tries to run a file that no program opens.
+        if (GetLastError() == ERROR_BAD_EXE_FORMAT) {
+            SetLastError(ERROR_NO_ASSOCIATION);
+        }
+        return false;
+    }
+    process = own.hProcess;
+    return true;
+}
+
+bool StartFile(const StartRequest& request, HANDLE& process)
+{
+    StartRequest start = request;
+    start.file = DevicePath(start.file);
+    process = nullptr;
+    if (!FollowShortcuts(start)) {
+        return false;
+    }
+    start.folder = DevicePath(start.folder);
+    return IsProgram(start.file) ? StartProgram(start, process) : OpenDocument(start, process);
+}
+
+} // namespace handheld

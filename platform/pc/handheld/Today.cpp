@@ -4,6 +4,7 @@
 #include "platform/pc/common/ActiveProfile.h"
 #include "platform/pc/common/BarLook.h"
 #include "platform/pc/common/Screen.h"
+#include "platform/pc/handheld/OwnFolder.h"
 
 using handheld::Scaled;
 
@@ -29,10 +30,7 @@ static std::wstring DateOfToday()
 
 static std::wstring ProgramPath()
 {
-    wchar_t path[MAX_PATH];
-    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
-    std::wstring program(path, length < MAX_PATH ? length : 0);
-    program = program.substr(0, program.find_last_of(L'\\') + 1) + programFile;
+    std::wstring program = OwnFolder() + L'\\' + programFile;
     return GetFileAttributesW(program.c_str()) == INVALID_FILE_ATTRIBUTES ? std::wstring() : program;
 }
 

@@ -11,10 +11,6 @@ using handheld::Scaled;
 static constexpr UINT_PTR updateTimer = 1;
 static constexpr UINT updateInterval = 250; // ms; Wine 8.0 tells nobody that the foreground has changed
 
-// The four panes at the left end.
-static constexpr COLORREF panes[] = {RGB(226, 92, 66), RGB(120, 190, 80), RGB(80, 150, 220),
-                                     RGB(248, 200, 80)};
-
 static std::wstring TitleOf(HWND window)
 {
     wchar_t title[128] = {};
@@ -27,6 +23,11 @@ static std::wstring TimeOfDay()
     wchar_t text[40] = {};
     GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, TIME_NOSECONDS, nullptr, nullptr, text, 40);
     return text;
+}
+
+static POINT PointOf(LPARAM position)
+{
+    return {static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
 }
 
 TopBar::TopBar(HWND homeScreen)
@@ -52,6 +53,7 @@ bool TopBar::Open()
     if (!Create(L"Shell_TrayWnd", text, WS_VISIBLE, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, rect)) {
         return false;
     }
+    flag.Attach(Window());
     SetTimer(Window(), updateTimer, updateInterval, nullptr);
     UpdateWindow(Window());
     return true;
@@ -62,6 +64,16 @@ LRESULT TopBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     switch (message) {
     case WM_TIMER:
         Update();
+        return 0;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        flag.Press(PointOf(lParam));
+        return 0;
+    case WM_LBUTTONUP:
+        flag.Release(PointOf(lParam));
+        return 0;
+    case WM_CAPTURECHANGED:
+        flag.Cancel();
         return 0;
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
@@ -74,15 +86,7 @@ void TopBar::Paint(handheld::Surface& surface)
 {
     const RECT all = surface.Client();
     handheld::PaintBar(surface, all);
-    const int pane = Scaled(6);
-    const int gap = Scaled(1);
-    const int left = Scaled(6);
-    const int top = (all.bottom - 2 * pane - gap) / 2;
-    for (int i = 0; i < 4; ++i) {
-        const int x = left + i % 2 * (pane + gap);
-        const int y = top + i / 2 * (pane + gap);
-        surface.Fill({x, y, x + pane, y + pane}, panes[i]);
-    }
+    flag.Paint(surface);
     RECT clock = all;
     clock.right -= Scaled(6);
     surface.Text(time, clock, normal, handheld::barText, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
@@ -91,7 +95,7 @@ void TopBar::Paint(handheld::Surface& surface)
     DrawTextW(surface.Dc(), time.c_str(), static_cast<int>(time.size()), &measured,
               DT_CALCRECT | DT_SINGLELINE);
     SelectObject(surface.Dc(), previous);
-    const RECT middle = {left + 2 * pane + Scaled(8), 0,
+    const RECT middle = {Flag::Place(all).right + Scaled(2), 0,
                          clock.right - (measured.right - measured.left) - Scaled(6), all.bottom};
     surface.Text(title, middle, bold, handheld::barText,
                  DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);

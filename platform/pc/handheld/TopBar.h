@@ -1,6 +1,7 @@
-// TopBar: the bar above every program, with the active window's title and the time.
+// TopBar: the bar above every program, with the Start menu, the active window's title and the time.
 #pragma once
 
+#include "platform/pc/handheld/Flag.h"
 #include "platform/pc/handheld/ShellWindow.h"
 
 class TopBar final : public ShellWindow
@@ -20,6 +21,7 @@ class TopBar final : public ShellWindow
     void Update();
 
     HWND today;
+    Flag flag;
     std::wstring title;
     std::wstring time;
     HFONT bold;

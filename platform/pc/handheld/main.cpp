@@ -4,6 +4,7 @@
 #include "platform/pc/handheld/Cards.h"
 #include "platform/pc/handheld/Control.h"
 #include "platform/pc/handheld/Options.h"
+#include "platform/pc/handheld/StartMenu.h"
 #include "platform/pc/handheld/Today.h"
 #include "platform/pc/handheld/TopBar.h"
 
@@ -105,6 +106,7 @@ static int RunShell(const Options& options)
         return failed;
     }
     MakeCards();
+    FillStartMenu();
     Control control;
     Today today;
     if (!control.Open() || !today.Open()) {

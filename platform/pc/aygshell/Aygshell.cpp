@@ -100,7 +100,7 @@ extern "C" BOOL WINAPI ce_SHInitDialog(SHINITDLGINFO* info)
     return TRUE;
 }
 
-// The Back key: a character less in the focused control.
+// The Back key: a character less in the focused control. The program's loop makes the character of the key.
 extern "C" void WINAPI ce_SHSendBackToFocusWindow(UINT message, WPARAM, LPARAM lParam)
 {
     const HWND focus = GetFocus();
@@ -109,9 +109,6 @@ extern "C" void WINAPI ce_SHSendBackToFocusWindow(UINT message, WPARAM, LPARAM l
     }
     const bool released = (LOWORD(lParam) & MOD_KEYUP) != 0;
     PostMessageW(focus, released ? WM_KEYUP : WM_KEYDOWN, VK_BACK, released ? 0xC0000001 : 1);
-    if (!released) {
-        PostMessageW(focus, WM_CHAR, L'\b', 1);
-    }
 }
 
 // Without a word of the profile on it, the tiers are told by the failure that the question is about: the

@@ -22,6 +22,7 @@ class BackspaceTest : public UiTest
         MSG posted = {};
         while (PeekMessageW(&posted, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
             sent.push_back(Numbers(posted.message, posted.wParam, posted.lParam));
+            TranslateMessage(&posted);
             DispatchMessageW(&posted);
         }
         return sent;
@@ -35,11 +36,11 @@ class BackspaceTest : public UiTest
     }
 };
 
-TEST_F(BackspaceTest, ItsPressIsAKeyWithItsCharacter)
+TEST_F(BackspaceTest, ItsPressIsAKeyThatErasesOneCharacter)
 {
     ASSERT_EQ(GetFocus(), edit);
     EXPECT_EQ(Sent(WM_HOTKEY, 0, VK_ESCAPE),
-              (Events{Numbers(WM_KEYDOWN, VK_BACK, 1), Numbers(WM_CHAR, '\b', 1)}));
+              (Events{Numbers(WM_KEYDOWN, VK_BACK, 1), Numbers(WM_CHAR, L'\b', 1)}));
     EXPECT_EQ(Text(), L"ab");
 }
 

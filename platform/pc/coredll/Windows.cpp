@@ -1,13 +1,13 @@
 // Creating windows as the device's window manager does.
 #include "platform/pc/common/Screen.h"
 #include "platform/pc/coredll/ListViewFix.h"
+#include "platform/pc/coredll/SystemFont.h"
 
 #include <commctrl.h>
 
-static bool IsVirtualList(const wchar_t* className, DWORD style)
+static bool IsClass(const wchar_t* className, const wchar_t* wanted)
 {
-    return !IS_INTRESOURCE(className) && lstrcmpiW(className, WC_LISTVIEWW) == 0 &&
-           (style & LVS_OWNERDATA) != 0;
+    return !IS_INTRESOURCE(className) && lstrcmpiW(className, wanted) == 0;
 }
 
 extern "C" HWND WINAPI ce_CreateWindowExW(DWORD exStyle, const wchar_t* className, const wchar_t* title,
@@ -37,8 +37,11 @@ extern "C" HWND WINAPI ce_CreateWindowExW(DWORD exStyle, const wchar_t* classNam
     }
     const HWND window = CreateWindowExW(exStyle, className, title, style, x, y, width, height, parent, menu,
                                         instance, parameter);
-    if (window && IsVirtualList(className, style)) {
+    if (window && IsClass(className, WC_LISTVIEWW) && (style & LVS_OWNERDATA) != 0) {
         RepaintWhenListMoves(window);
+    }
+    if (window && IsClass(className, WC_EDITW)) {
+        SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(SystemFont()), FALSE);
     }
     return window;
 }

@@ -43,9 +43,10 @@ void ShellSession::ExpectKeysReachThePage(int page) const
 {
     ASSERT_TRUE(InFront(main));
     EXPECT_EQ(page, program->VisiblePage());
-    // The program translates these keys wherever the focus is; a list gets the others only with it.
-    const HWND list = program->List(page);
-    EXPECT_TRUE(WaitFor([&] { return FocusOf(main) == list; })) << "the focus is not the list's";
+    // The program translates these keys wherever the focus is; what has the focus gets the others.
+    const HWND box = SearchBox(page);
+    const HWND keyboard = box ? box : program->List(page);
+    EXPECT_TRUE(WaitFor([&] { return FocusOf(main) == keyboard; })) << "the page has not got the focus";
     PressKey(VK_RIGHT);
     EXPECT_TRUE(program->WaitForPage(PageAfter(page, 1))) << "the key did not reach page " << page;
     PressKey(VK_LEFT);
@@ -78,9 +79,16 @@ int ShellSession::SettledCount() const
     return before;
 }
 
+HWND ShellSession::SearchBox(int page) const
+{
+    return GetDlgItem(program->Page(page), IDC_SEARCH);
+}
+
 int ShellSession::StripHeight(int page) const
 {
-    return ScreenRectOf(program->List(page)).top - ScreenRectOf(program->Page(page)).top;
+    const HWND box = SearchBox(page);
+    const LONG end = box ? ScreenRectOf(box).top - Scaled(4) : ScreenRectOf(program->List(page)).top;
+    return end - ScreenRectOf(program->Page(page)).top;
 }
 
 POINT ShellSession::StripPoint(int page, int x) const

@@ -69,7 +69,9 @@ class ShellSession : public testing::Test
     // The rows of the first page once the refresh that follows its first showing is over.
     int SettledCount() const;
 
-    // The height of a page's title strip: what the list leaves of the page above itself.
+    // Null on the pages that have none.
+    HWND SearchBox(int page) const;
+    // The height of a page's title strip: what its other parts leave of the page above themselves.
     int StripHeight(int page) const;
     // On the screen, in the middle of a page's strip.
     POINT StripPoint(int page, int x) const;

@@ -1,8 +1,8 @@
 // GaugeSession: the program on its system information page, with figures that the test makes up.
 #include "tests/e2e/pages/sysinfo/GaugeSession.h"
 
-#include "platform/pc/common/ActiveProfile.h"
 #include "rig/Controls.h"
+#include "tests/e2e/SessionProfile.h"
 
 using namespace rig;
 
@@ -13,36 +13,9 @@ const Gauge plainMemory = {L"Physical memory", 48, L"31.25 MB", L"32.75 MB "};
 const Gauge plainStorage = {L"Storage memory", 37, L"48 MB", L"80 MB "};
 const Gauge plainBattery = {L"Battery", 87, L"87%", L"Charging "};
 
-static std::vector<unsigned char> Utf8(const std::wstring& text)
-{
-    const int length = static_cast<int>(text.size());
-    std::vector<unsigned char> bytes(text.size() * 3);
-    const int size =
-        WideCharToMultiByte(CP_UTF8, 0, text.data(), length, reinterpret_cast<char*>(bytes.data()),
-                            static_cast<int>(bytes.size()), nullptr, nullptr);
-    bytes.resize(static_cast<size_t>(size));
-    return bytes;
-}
-
-// What the running handheld's profile says of its screen.
-static std::wstring ScreenOfSession()
-{
-    wchar_t path[MAX_PATH] = {};
-    DWORD size = sizeof(path);
-    EXPECT_EQ(ERROR_SUCCESS, RegGetValueW(HKEY_CURRENT_USER, handheld::profileKey, handheld::profileValue,
-                                          RRF_RT_REG_SZ, nullptr, path, &size));
-    std::wstring section = L"[handheld]\n";
-    for (const wchar_t* key : {L"platform", L"width", L"height", L"dpi"}) {
-        wchar_t value[40] = {};
-        EXPECT_NE(0u, GetPrivateProfileStringW(L"handheld", key, L"", value, 40, path)) << key;
-        section.append(key).append(L" = ").append(value).append(L"\n");
-    }
-    return section;
-}
-
 void GaugeSession::TearDown()
 {
-    SetEnvironmentVariableW(handheld::profileVariable, nullptr);
+    UseSessionProfile();
 }
 
 void GaugeSession::MakeCard(const wchar_t* name) const
@@ -57,8 +30,7 @@ void GaugeSession::RemoveCard(const wchar_t* name) const
 
 void GaugeSession::ShowWith(const std::wstring& profile, const std::wstring& folder)
 {
-    SetEnvironmentVariableW(handheld::profileVariable,
-                            device.WriteFile(L"profile.ini", Utf8(profile)).c_str());
+    UseProfile(device.Path(L"profile.ini"), profile);
     Launch(L"", folder);
     ASSERT_TRUE(main);
     ASSERT_TRUE(InFront(main));

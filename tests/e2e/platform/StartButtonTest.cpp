@@ -21,12 +21,13 @@ class StartButtonTest : public ShellSession
     const HWND bar = FindTopWindow({.className = L"Shell_TrayWnd"});
     const POINT flag = {Scaled(12), Scaled(13)};
     const POINT corner = {0, Scaled(26)};
-    Actor actor;
+    const RECT belowMenus = {0, Scaled(200), Scaled(100), Scaled(260)};
+    const Actor actor;
     HWND front = nullptr;
 
     void SetUp() override
     {
-        front = actor.Make({.title = L"In front", .place = {0, Scaled(200), 100, Scaled(260)}});
+        front = actor.Make({.title = L"In front", .place = belowMenus});
         ASSERT_TRUE(Raise(front));
     }
 
@@ -151,7 +152,7 @@ TEST_F(StartButtonTest, QuorvaneThatRunsComesForward)
 TEST_F(StartButtonTest, AProgramInFrontThatHangsHoldsNothingUp)
 {
     const Actor hung;
-    const HWND window = hung.Make({.closing = actor::Closing::Delay, .delay = 600000});
+    const HWND window = hung.Make({.place = belowMenus, .closing = actor::Closing::Delay, .delay = 600000});
     ASSERT_TRUE(Raise(window));
     PostMessageW(window, WM_CLOSE, 0, 0);
     ASSERT_TRUE(WaitFor([=] { return SendMessageTimeoutW(window, WM_NULL, 0, 0, 0, 100, nullptr) == 0; }));
@@ -165,7 +166,7 @@ TEST_F(StartButtonTest, AProgramInFrontThatHangsHoldsNothingUp)
 TEST_F(StartButtonTest, AProgramThatGoesUnderTheMenuLeavesTheNextOneInFront)
 {
     const Actor other;
-    const HWND window = other.Make({.title = L"Going"});
+    const HWND window = other.Make({.title = L"Going", .place = belowMenus});
     ASSERT_TRUE(Raise(window));
     Open(flag, 1);
     other.Vanish(window);

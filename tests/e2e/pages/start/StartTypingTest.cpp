@@ -10,7 +10,7 @@
 
 using namespace rig;
 
-class StartKeysTest : public StartScreen
+class StartTypingTest : public StartScreen
 {
   protected:
     // The row's name with a part of it underlined, which normal letters are beside.
@@ -39,7 +39,7 @@ class StartKeysTest : public StartScreen
     }
 };
 
-TEST_F(StartKeysTest, EveryLetterOfSeveralNarrowsTheList)
+TEST_F(StartTypingTest, EveryLetterOfSeveralNarrowsTheList)
 {
     EXPECT_TRUE(RowIs(0, L"Calculator"));
     EXPECT_TRUE(RowIs(1, L"Calendar"));
@@ -57,14 +57,14 @@ TEST_F(StartKeysTest, EveryLetterOfSeveralNarrowsTheList)
     EXPECT_TRUE(RowUnderlines(0, L"", L"Cale"));
 }
 
-TEST_F(StartKeysTest, OnlyTheMatchIsUnderlinedWhereverItIs)
+TEST_F(StartTypingTest, OnlyTheMatchIsUnderlinedWhereverItIs)
 {
     Search(L"mi");
     EXPECT_TRUE(HasRows(1));
     EXPECT_TRUE(RowUnderlines(0, L"Wine", L"Mi"));
 }
 
-TEST_F(StartKeysTest, BackErasesLettersAndDoesNothingElse)
+TEST_F(StartTypingTest, BackErasesLettersAndDoesNothingElse)
 {
     Search(L"cale");
     ASSERT_TRUE(HasRows(1));
@@ -78,7 +78,7 @@ TEST_F(StartKeysTest, BackErasesLettersAndDoesNothingElse)
     EXPECT_TRUE(HasRows(1));
 }
 
-TEST_F(StartKeysTest, EnterStartsTheFirstMatch)
+TEST_F(StartTypingTest, EnterStartsTheFirstMatch)
 {
     PressKey('W');
     PressKey('I');
@@ -86,14 +86,14 @@ TEST_F(StartKeysTest, EnterStartsTheFirstMatch)
     EXPECT_TRUE(ComesAndGoes(L"WineMine"));
 }
 
-TEST_F(StartKeysTest, EnterStartsTheSelectedRow)
+TEST_F(StartTypingTest, EnterStartsTheSelectedRow)
 {
     ASSERT_NO_FATAL_FAILURE(Select(2));
     PressKey(VK_RETURN);
     EXPECT_TRUE(ComesAndGoes(L"Untitled - Notepad"));
 }
 
-TEST_F(StartKeysTest, KeysMoveTheSelectionAndTheFocusStays)
+TEST_F(StartTypingTest, KeysMoveTheSelectionAndTheFocusStays)
 {
     PressKey(VK_DOWN, 2);
     EXPECT_TRUE(HasMark(2));
@@ -117,7 +117,7 @@ TEST_F(StartKeysTest, KeysMoveTheSelectionAndTheFocusStays)
     ExpectUsable();
 }
 
-TEST_F(StartKeysTest, TypingSelectsTheFirstRowAgain)
+TEST_F(StartTypingTest, TypingSelectsTheFirstRowAgain)
 {
     ASSERT_NO_FATAL_FAILURE(Select(3));
     Search(L"a");
@@ -125,7 +125,7 @@ TEST_F(StartKeysTest, TypingSelectsTheFirstRowAgain)
     EXPECT_TRUE(HasMark(0));
 }
 
-TEST_F(StartKeysTest, ArrowsPageAndTheSearchSurvives)
+TEST_F(StartTypingTest, ArrowsPageAndTheSearchSurvives)
 {
     Search(L"note");
     PressKey(VK_LEFT);

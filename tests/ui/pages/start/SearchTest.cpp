@@ -162,10 +162,11 @@ TEST_F(SearchTest, TheTextOutlivesThePagesTurns)
     });
 }
 
-TEST_F(SearchTest, ASearchDoesNotScan)
+TEST_F(SearchTest, ASearchDoesNotScanNotEvenAfterARefresh)
 {
     AddPrograms({L"abc", L"xyz"});
     OnPage([&](ProgramApp& app) {
+        Run(app, CMD_REFRESH);
         menu.calls.clear();
         Search(app, L"x");
         app.ActivateView(1);

@@ -3,6 +3,8 @@
 #include "tests/support/Fatal.h"
 #include "tests/ui/dialogs/PickerTest.h"
 
+#include <algorithm>
+
 class CDialogSelectAppTest : public PickerTest
 {
   protected:
@@ -29,7 +31,9 @@ class CDialogSelectAppTest : public PickerTest
 TEST_F(CDialogSelectAppTest, AllProgramsAreListedWithTheFirstSelected)
 {
     AddPrograms({L"b", L"a", L"c"});
-    Open([](Opened& opened) {
+    SPY(SetFocus) focus;
+    Open([&](Opened& opened) {
+        EXPECT_EQ(std::count(focus.calls.begin(), focus.calls.end(), std::make_tuple(opened.list)), 1);
         EXPECT_EQ(Text(opened.dialog), L"Select an application");
         EXPECT_EQ(Count(opened), 3);
         EXPECT_EQ(Mark(opened.list), 0);

@@ -115,7 +115,7 @@ TEST_F(StartLeaksTest, OpenMenusOfTheSearchBoxLeaveNothing)
 TEST_F(StartLeaksTest, TheEndOfThePageLeavesOnlyTheUnderlinedFont)
 {
     menu.AddMany(5);
-    ExpectNothingLeft(10, [&] {
+    ExpectNothingLeft(50, [&] {
         OnPage([](ProgramApp& app) { EXPECT_EQ(Count(app), 5); });
         EXPECT_EQ(fonts.underlined.size(), 1u);
         EXPECT_TRUE(fonts.Delete());

@@ -51,8 +51,8 @@ void Tour::Run()
             "Quorvane did not come to the front");
     ShowTasks();
     ShowSysInfo();
-    GoToPage(launcherPage, CMD_SHOW_START);
-    Keep("start");
+    ShowStart();
+    ShowStartButton();
     ShowProcs();
     program.Command(CMD_EXIT);
     Require(program.ExitCode(patience) == 0u,

@@ -42,6 +42,11 @@ class Tour
     void ShowTasks();
     void ShowRefusedClose();
     void ShowSysInfo();
+    void ShowStart();
+    // The menu of the handheld's own button.
+    void ShowStartButton();
+    // Types into the search box in place of what is there.
+    void Search(const wchar_t* text);
     void ShowProcs();
     void ShowEnding();
 

@@ -83,6 +83,10 @@ INT_PTR CDialogSelectApp::Notify(const NMHDR& notification)
     if (notification.code == LVN_ITEMACTIVATE) {
         OnCommand(CMD_ACTIVATE_ITEM, 0, 0);
     }
+    if (notification.code == LVN_ODFINDITEMW) {
+        SetWindowLongPtrW(window, DWLP_MSGRESULT, -1); // a letter finds no row, where 0 would be the first
+        return TRUE;
+    }
     if (notification.code != GN_CONTEXTMENU) {
         return 0;
     }

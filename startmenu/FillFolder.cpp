@@ -41,7 +41,9 @@ class CFolderSearch
 
 } // namespace
 
-static void AddShortcut(const wchar_t* folder, const wchar_t* name, CRecords<SAppsList>& programs)
+// Not part of the recursion's frames.
+[[gnu::noinline]] static void AddShortcut(const wchar_t* folder, const wchar_t* name,
+                                          CRecords<SAppsList>& programs)
 {
     auto* program = new SAppsList;
     Assert(program != nullptr, ErrorNoMemory, method, __LINE__);

@@ -24,12 +24,11 @@ bool StartMenuFolder(HWND owner, CStr& path)
         return false;
     }
     CPathText found;
-    const bool known = PathOfStartMenu(allocator, owner, found);
+    const bool known = PathOfStartMenu(allocator, owner, found) && found[0] != 0;
     allocator->Release();
     if (known) {
         path = found;
-        const uint32_t length = path.Length();
-        if (length == 0 || *path.At(length - 1) != L'\\') {
+        if (*path.At(path.Length() - 1) != L'\\') {
             path.Append(L"\\");
         }
     }

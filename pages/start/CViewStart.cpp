@@ -44,12 +44,12 @@ void CViewStart::OnActivate(int32_t previousViewId)
 // The rows are gone before the records that they point to.
 void CViewStart::Collect()
 {
-    search.Read();
     shown.Delete(0, shown.Count());
     if (rescan) {
         rescan = false;
         programs.Refill(CVireoApp::Current()->MainWindow());
     }
+    search.Read();
     const CRecords<SAppsList>& all = programs.Programs();
     for (uint32_t i = 0; i < all.Count(); ++i) {
         CStr name(all.At(i)->name);

@@ -1,18 +1,17 @@
 // The plain-text report on a shortcut.
 #include "pages/start/ShortcutReport.h"
 
+#include "framework/Assert.h"
 #include "framework/CFile.h"
 #include "framework/NarrowToWide.h"
 #include "framework/ReportText.h"
 
-// Nothing of a file that is empty or too large for the memory.
+// Nothing of an empty file.
 static void AppendContents(CStr& report, CFile& file)
 {
     const uint32_t size = file.Size();
-    char* narrow = size < UINT32_MAX ? new char[size + 1] : nullptr;
-    if (narrow == nullptr) {
-        return;
-    }
+    char* narrow = new char[size + 1];
+    Assert(narrow != nullptr, ErrorNoMemory, L"AppendShortcutReport", __LINE__);
     file.ReadText(narrow, size);
     if (wchar_t* wide = NarrowToWide(narrow)) {
         report.Append(wide);

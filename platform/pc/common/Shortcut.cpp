@@ -58,6 +58,9 @@ static bool ReadLinkObject(IShellLinkW& link, Shortcut& shortcut)
 
 static bool ReadLink(const std::wstring& path, Shortcut& shortcut)
 {
+    // The first link keeps COM and the shell's library for the process: each would load them anew otherwise.
+    static const ComScope* const kept = new ComScope;
+    static_cast<void>(kept);
     const ComScope com;
     auto* const link = ComScope::Create<IShellLinkW>(CLSID_ShellLink, IID_IShellLinkW);
     if (!link) {

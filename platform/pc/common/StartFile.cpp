@@ -48,9 +48,26 @@ static bool FollowShortcuts(StartRequest& start)
     return true;
 }
 
+static bool IsFolder(const std::wstring& path)
+{
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+// The PC's links may have %names% in their folders.
+static std::wstring Expanded(const std::wstring& text)
+{
+    std::wstring expanded(ExpandEnvironmentStringsW(text.c_str(), nullptr, 0), L'\0');
+    ExpandEnvironmentStringsW(text.c_str(), expanded.data(), static_cast<DWORD>(expanded.size()));
+    return expanded.substr(0, expanded.find(L'\0'));
+}
+
 // A name without an extension is a program's too.
 static bool IsProgram(const std::wstring& file)
 {
+    if (IsFolder(file)) {
+        return false;
+    }
     const size_t dot = file.find_last_of(L".\\/");
     return dot == std::wstring::npos || file[dot] != L'.' || lstrcmpiW(file.c_str() + dot, L".exe") == 0;
 }
@@ -105,7 +122,10 @@ bool StartFile(const StartRequest& request, HANDLE& process)
     if (!FollowShortcuts(start)) {
         return false;
     }
-    start.folder = DevicePath(start.folder);
+    start.folder = DevicePath(Expanded(start.folder));
+    if (!IsFolder(start.folder)) {
+        start.folder.clear(); // the program starts all the same
+    }
     return IsProgram(start.file) ? StartProgram(start, process) : OpenDocument(start, process);
 }
 

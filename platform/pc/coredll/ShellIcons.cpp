@@ -69,7 +69,8 @@ class IconList
             return noIcon;
         }
         const int index = Find(file.c_str(), attributes);
-        if (indexes.size() < mostPrograms) {
+        // A shortcut may be changed, and the program remembers its icon itself.
+        if (!HasExtension(path, L".lnk") && indexes.size() < mostPrograms) {
             indexes.emplace(key, index);
         }
         return index;

@@ -94,7 +94,9 @@ TEST_F(StartStylusTest, HoldingTheBoxShowsItsMenu)
 TEST_F(StartStylusTest, MoreThanFitsIsCutWhenPasted)
 {
     Copy(std::wstring(300, L'q'));
+    ASSERT_TRUE(Raise(Main())); // the clipboard's owner has been in front
     Hold();
+    ParkStylus();
     PressKey(VK_DOWN, pasteLine);
     PressKey(VK_RETURN);
     EXPECT_TRUE(BoxHas(std::wstring(254, L'q'))) << TextOf(box).size();

@@ -6,8 +6,8 @@
 #include <algorithm>
 
 static const std::vector<std::string> programs = {"Quorvane.exe", "Quorvane.zrs", "aygshell.dll",
-                                                  "coredll.dll",  "handheld.exe", "note_prj.dll",
-                                                  "toolhelp.dll"};
+                                                  "ceshell.dll",  "coredll.dll",  "handheld.exe",
+                                                  "note_prj.dll", "toolhelp.dll"};
 
 class PcArchiveTest : public testing::Test
 {
@@ -60,7 +60,7 @@ TEST_F(PcArchiveTest, HoldsWhatAPcNeedsAndNothingElse)
     EXPECT_EQ(
         list.output,
         "Quorvane/Quorvane.exe\nQuorvane/Quorvane.zrs\nQuorvane/README.txt\n"
-        "Quorvane/aygshell.dll\nQuorvane/coredll.dll\n"
+        "Quorvane/aygshell.dll\nQuorvane/ceshell.dll\nQuorvane/coredll.dll\n"
         "Quorvane/handheld.exe\nQuorvane/note_prj.dll\nQuorvane/profiles/one.ini\nQuorvane/profiles/two.ini\n"
         "Quorvane/run.cmd\nQuorvane/toolhelp.dll\n");
     for (const std::string& name : programs) {

@@ -28,16 +28,18 @@ class StartStylusTest : public StartScreen
         CloseClipboard();
     }
 
+    // A place of each test's own: the second touch of the same place would be a double tap.
     POINT InBox() const
     {
+        static LONG touches = 0;
         const RECT area = ScreenRectOf(box);
-        return {area.left + OnScreen(40), (area.top + area.bottom) / 2};
+        return {area.left + OnScreen(40 + 20 * touches++), (area.top + area.bottom) / 2};
     }
 
     // The stylus stays on the box until the menu is there, and is lifted beside it.
-    void Hold() const
+    void Hold(POINT place) const
     {
-        StylusDown(InBox());
+        StylusDown(place);
         EXPECT_TRUE(WaitFor([] { return OpenMenu(); })) << "holding opens no menu";
         StylusUp({ScreenRectOf(Main()).right - 2, ScreenRectOf(list).bottom - 2});
     }
@@ -77,11 +79,12 @@ TEST_F(StartStylusTest, TheStripsPopUpRefreshes)
 
 TEST_F(StartStylusTest, HoldingTheBoxShowsItsMenu)
 {
+    const POINT place = InBox();
     Copy(L"cal");
-    const MenuTwin fresh({{L"Cut", true}, {L"Copy", true}, {L"Paste"}, {}, {L"Undo", true}}, InBox(), 0);
+    const MenuTwin fresh({{L"Cut", true}, {L"Copy", true}, {L"Paste"}, {}, {L"Undo", true}}, place, 0);
     ASSERT_GT(fresh.Look().Colours(), 1);
     ASSERT_TRUE(Raise(Main()));
-    Hold();
+    Hold(place);
     ParkStylus();
     EXPECT_TRUE(WaitFor([&] { return Picture::OfScreen(fresh.Area()) == fresh.Look(); }));
     PressKey(VK_DOWN, pasteLine);
@@ -95,7 +98,7 @@ TEST_F(StartStylusTest, MoreThanFitsIsCutWhenPasted)
 {
     Copy(std::wstring(300, L'q'));
     ASSERT_TRUE(Raise(Main())); // the clipboard's owner has been in front
-    Hold();
+    Hold(InBox());
     ParkStylus();
     PressKey(VK_DOWN, pasteLine);
     PressKey(VK_RETURN);

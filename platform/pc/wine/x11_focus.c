@@ -122,7 +122,7 @@ Status XReconfigureWMWindow(Display* display, Window window, int screen, unsigne
         original = (ReconfigureFunction)dlsym(RTLD_NEXT, "XReconfigureWMWindow");
     }
     const Status result = original(display, window, screen, mask, changes);
-    if (mask == 0 && IsLowestWindow(window)) {
+    if (!(mask & CWStackMode) && IsLowestWindow(window)) {
         XWindowChanges lower = {.stack_mode = Below};
         BeginOwnRequests(display);
         Configure(display, window, CWStackMode, &lower);

@@ -52,7 +52,8 @@ static bool Fits(const Search& search, const WIN32_FIND_DATAW& data)
 
 static HANDLE FindFirst(const wchar_t* path, WIN32_FIND_DATAW& data, bool onlyFolders)
 {
-    if (!path) {
+    // Wine would look behind a longer path, too.
+    if (!path || wcslen(path) >= MAX_PATH) {
         SetLastError(ERROR_PATH_NOT_FOUND);
         return INVALID_HANDLE_VALUE;
     }

@@ -113,11 +113,23 @@ TEST_F(FileSearchTest, FoldersAreSearchedTwentyFiveDeep)
     EXPECT_EQ(Found(path + L"\\*.lnk"), Names{L"a.lnk"});
 }
 
+// The same folder by paths of different length.
 TEST_F(FileSearchTest, APathThatIsTooLongFindsNothing)
 {
-    for (const size_t length : {259u, 260u, 300u, 40000u}) {
-        EXPECT_EQ(Found(L"\\" + std::wstring(length, L'x') + L"\\*"), Names{});
-        EXPECT_EQ(Found(L"\\" + std::wstring(length, L'x')), Names{});
+    folder.WriteFile(L"a.lnk", {});
+    const auto search = [&](size_t length) {
+        std::wstring path = folder.Path(L"*");
+        while (path.size() + 2 <= length) {
+            path.insert(folder.Folder().size(), L"\\.");
+        }
+        path.append(length - path.size(), L'*');
+        EXPECT_EQ(path.size(), length);
+        return Found(path);
+    };
+    EXPECT_EQ(search(258), Names{L"a.lnk"});
+    EXPECT_EQ(search(259), Names{L"a.lnk"});
+    for (const size_t length : {260u, 261u, 300u, 40000u}) {
+        EXPECT_EQ(search(length), Names{}) << length;
     }
 }
 

@@ -35,10 +35,26 @@ void Tour::ShowStart()
     Require(WaitFor([=] { return ListCount(list) > 0; }), "the search finds nothing");
     Keep("start-search");
     ShowDialog(CMD_APPLICATION_INFO, "shortcut-report", HasReport);
+    ShowSearchMenu();
     Search(L"zzz");
     Require(WaitFor([=] { return ListCount(list) == 0; }), "the search finds what is not there");
     Keep("start-no-matches");
     Search(L"");
+}
+
+void Tour::ShowSearchMenu()
+{
+    if (!FindWindowW(L"DesktopExplorerWindow", L"Today")) {
+        return; // a Smartphone, whose home screen has no title, has no stylus either
+    }
+    const RECT box = ScreenRectOf(GetDlgItem(program.Page(launcherPage), IDC_SEARCH));
+    const LONG middle = (box.top + box.bottom) / 2;
+    StylusDown({box.left + (box.right - box.left) / 4, middle});
+    Require(WaitFor([] { return OpenMenu() != nullptr; }),
+            "holding the stylus on the search box opens no menu");
+    StylusUp({box.right - 1, middle});
+    Keep("search-menu");
+    CloseMenus();
 }
 
 void Tour::ShowStartButton()

@@ -43,6 +43,8 @@ class Tour
     void ShowRefusedClose();
     void ShowSysInfo();
     void ShowStart();
+    // What holding the stylus on the search box opens.
+    void ShowSearchMenu();
     // The menu of the handheld's own button.
     void ShowStartButton();
     // Types into the search box in place of what is there.

@@ -15,9 +15,15 @@ static BOOL CALLBACK Collect(HWND window, LPARAM list)
     return TRUE;
 }
 
+// Its text is the title of the window in front, so a title alone does not mean it.
+static bool IsTopBarByTitle(HWND window, const WindowQuery& query)
+{
+    return query.className.empty() && !query.title.empty() && ClassOf(window) == L"Shell_TrayWnd";
+}
+
 static bool Fits(HWND window, const WindowQuery& query)
 {
-    return (!query.visible || IsWindowVisible(window)) &&
+    return !IsTopBarByTitle(window, query) && (!query.visible || IsWindowVisible(window)) &&
            (query.className.empty() || ClassOf(window) == query.className) &&
            (query.process == 0 || ProcessOf(window) == query.process) &&
            (!query.owner || GetWindow(window, GW_OWNER) == query.owner) &&

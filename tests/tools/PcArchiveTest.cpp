@@ -94,7 +94,7 @@ TEST_F(PcArchiveTest, HoldsNoOwnersAndFurtherTimes)
         EXPECT_EQ(std::stoi(report.substr(at + field.size())), 0);
         files++;
     }
-    EXPECT_EQ(files, 11);
+    EXPECT_EQ(files, 12);
 }
 
 TEST_F(PcArchiveTest, TextsAreForWindows)

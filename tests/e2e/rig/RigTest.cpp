@@ -50,6 +50,20 @@ TEST(RigTest, ActorWindowsAreFoundByClassTitleAndProcess)
     EXPECT_EQ(L"actor.exe", ExecutableOf(actor.Process()));
 }
 
+// The top bar shows the same title a little later, and may lie above the window.
+TEST(RigTest, TheTopBarIsNotMeantByATitle)
+{
+    const Actor actor;
+    const HWND window = actor.Make({.title = L"Shown twice"});
+    ASSERT_TRUE(BringToFront(window));
+    const HWND bar = FindTopWindow({.className = L"Shell_TrayWnd"});
+    ASSERT_TRUE(bar);
+    ASSERT_TRUE(WaitFor([&] { return TextOf(bar) == L"Shown twice"; }));
+    SetWindowPos(bar, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    ASSERT_TRUE(WaitFor([&] { return TopWindows().front() == bar; }));
+    EXPECT_EQ(window, FindTopWindow({.title = L"Shown twice"}));
+}
+
 TEST(RigTest, ActorTakesAClassNameOfTheLongestLength)
 {
     const Actor actor;

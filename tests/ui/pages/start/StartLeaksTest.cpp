@@ -1,58 +1,9 @@
 // What a long life of the launcher page and the picker leaves behind: nothing but the font that is to stay.
+#include "tests/ui/pages/start/StartLeaks.h"
 #include "dialogs/CDialogSelectApp.h"
-#include "tests/ui/LeakCheck.h"
-#include "tests/ui/pages/start/StartPageTest.h"
 
-class StartLeaksTest : public StartPageTest
-{
-  protected:
-    void ExpectNothingLeft(int times, const std::function<void()>& step, size_t keptBySystem = 0)
-    {
-        const auto forget = [this] {
-            enumWindows.calls.clear();
-            sleep.calls.clear();
-            registerClass.calls.clear();
-            menu.calls.clear();
-            fonts.Forget();
-        };
-        ::ExpectNothingLeft(times, step, forget, keptBySystem);
-        EXPECT_EQ(menu.items, 0);
-        EXPECT_EQ(menu.allocators, 0);
-        EXPECT_EQ(menu.searches, 0);
-    }
-};
-
-TEST_F(StartLeaksTest, AThousandSearchesLeaveNothing)
-{
-    menu.AddMany(20);
-    OnPage([&](ProgramApp& app) {
-        int turn = 0;
-        const wchar_t* const searches[] = {L"p", L"program 1", L"nothing", L""};
-        ExpectNothingLeft(1000, [&] { Search(app, searches[turn++ % 4]); });
-        EXPECT_EQ(Count(app), turn % 4 == 3 ? 0 : turn % 4 == 2 ? 11 : 20);
-    });
-}
-
-// The table of the well-known programs grows on purpose: its block is the same or another one.
-TEST_F(StartLeaksTest, AHundredRefreshesLeaveNothing)
-{
-    menu.AddMany(20);
-    OnPage([&](ProgramApp& app) {
-        ExpectNothingLeft(100, [&] {
-            menu.Add(L"Another.lnk");
-            Run(app, CMD_REFRESH);
-            menu.Remove(L"Another.lnk");
-            Run(app, CMD_REFRESH);
-        });
-        for (HRESULT* answer : {&menu.allocatorAnswer, &menu.locationAnswer}) {
-            ExpectNothingLeft(100, [&] {
-                *answer = *answer == S_OK ? E_FAIL : S_OK;
-                Run(app, CMD_REFRESH);
-            });
-            *answer = S_OK;
-        }
-    });
-}
+class StartLeaksTest : public StartLeaks
+{};
 
 TEST_F(StartLeaksTest, TurnsToThePageLeaveNothing)
 {

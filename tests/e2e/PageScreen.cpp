@@ -72,6 +72,7 @@ void PageScreen::FrontWithoutRefreshes() const
     WaitFor([] { return GetTickCount() - startedAt > afterLateStarters; });
     if (GetForegroundWindow() == Main()) {
         ASSERT_TRUE(Raise(Today()));
+        ASSERT_TRUE(WaitFor([] { return !FocusOf(Main()); })); // it has noticed
     }
     Front();
 }

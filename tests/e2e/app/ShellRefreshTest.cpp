@@ -39,6 +39,8 @@ TEST_F(ShellRefreshTest, WhileActiveEverySevenAndAHalfSeconds)
     const HWND home = FindTopWindow({.className = L"DesktopExplorerWindow"});
     ASSERT_TRUE(home);
     ASSERT_TRUE(BringToFront(home));
+    ASSERT_TRUE(WaitFor([&] { return !FocusOf(main); }))
+        << "it has not noticed that it is not active any more";
     const auto beforeActivation = Clock::now();
     ASSERT_TRUE(ComeToFront());
     const auto activated = Clock::now();

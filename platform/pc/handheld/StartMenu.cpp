@@ -51,10 +51,11 @@ static bool CanBeInFront(HWND window)
 }
 
 // The window that was in front may have gone meanwhile: the next one below it then. The home screen is always
-// there.
+// there. With a window that goes the front may go, too.
 static void GiveFrontBack(HWND owner, HWND previous)
 {
-    if (GetForegroundWindow() != owner) {
+    const HWND front = GetForegroundWindow();
+    if (front && front != owner && CanBeInFront(front)) {
         return;
     }
     if (!previous || !CanBeInFront(previous)) {

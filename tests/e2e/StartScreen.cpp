@@ -28,6 +28,16 @@ const std::wstring& StartScreen::Menu()
     return menu;
 }
 
+// The program may be reading a shortcut just then.
+bool StartScreen::RemoveMenu()
+{
+    return WaitFor([] {
+        std::error_code error;
+        std::filesystem::remove_all(Menu(), error);
+        return !error;
+    });
+}
+
 void StartScreen::TearDownTestSuite()
 {
     PageScreen::TearDownTestSuite();
@@ -37,7 +47,7 @@ void StartScreen::TearDownTestSuite()
 void StartScreen::SetUp()
 {
     UseProfile(Menu() + L".ini", ScreenOfSession() + L"start-menu = " + Menu() + L"\nhold-ms = 400\n");
-    std::filesystem::remove_all(Menu());
+    ASSERT_TRUE(RemoveMenu());
     Shortcut(L"Notepad", L"\\Windows\\notepad.exe");
     Shortcut(L"Programs\\Calculator", L"\\Windows\\calc.exe");
     Shortcut(L"Programs\\WineMine", L"\\Windows\\system32\\winemine.exe");
@@ -57,9 +67,12 @@ std::wstring StartScreen::File(const std::wstring& name, const std::string& byte
 {
     const std::wstring path = InMenu(name);
     std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-    std::ofstream file(path.c_str(), std::ios::binary);
-    file << bytes;
-    EXPECT_TRUE(file.flush()) << testing::PrintToString(path);
+    const bool written = WaitFor([&] {
+        std::ofstream file(path.c_str(), std::ios::binary);
+        file << bytes;
+        return static_cast<bool>(file.flush());
+    });
+    EXPECT_TRUE(written) << testing::PrintToString(path);
     return path;
 }
 

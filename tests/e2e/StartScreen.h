@@ -21,6 +21,7 @@ class StartScreen : public PageScreen
 
     // The folder of the menu, and paths in it.
     static const std::wstring& Menu();
+    static bool RemoveMenu();
     static std::wstring InMenu(const std::wstring& name) { return Menu() + L"\\" + name; }
     // A shortcut of the device's form, or any other text as a file.
     static std::wstring Shortcut(const std::wstring& name, const std::wstring& command);

@@ -9,8 +9,6 @@
 #include "rig/MenuTwin.h"
 #include "rig/WaitFor.h"
 
-#include <filesystem>
-
 using namespace rig;
 
 class StartRefreshTest : public StartScreen
@@ -60,7 +58,7 @@ TEST_F(StartRefreshTest, RefreshKeepsTheSearch)
 
 TEST_F(StartRefreshTest, WithoutAnyShortcutItSaysSo)
 {
-    std::filesystem::remove_all(Menu());
+    ASSERT_TRUE(RemoveMenu());
     Do(CMD_REFRESH);
     EXPECT_TRUE(HasRows(0));
     EXPECT_TRUE(ListSays(L"No applications detected"));

@@ -1,6 +1,7 @@
 // What this process has created and not given back.
 #include "tests/support/ObjectCounts.h"
 
+#include "tests/support/BusyBlocks.h"
 #include "tests/support/TestHeap.h"
 
 #include <windows.h>
@@ -79,12 +80,7 @@ static size_t CountHeapBlocks()
     const DWORD count = GetProcessHeaps(64, heaps);
     size_t blocks = 0;
     for (DWORD i = 0; i < count && i < 64; i++) {
-        HeapLock(heaps[i]);
-        PROCESS_HEAP_ENTRY entry = {};
-        while (HeapWalk(heaps[i], &entry)) {
-            blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
-        }
-        HeapUnlock(heaps[i]);
+        blocks += static_cast<size_t>(BusyBlocks(heaps[i]));
     }
     return blocks;
 }

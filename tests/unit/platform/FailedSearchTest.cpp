@@ -1,26 +1,12 @@
 // A search for files that finds nothing.
 #include "platform/ce.h"
+#include "tests/support/BusyBlocks.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 class FailedSearchTest : public testing::Test
-{
-  protected:
-    // In use in the process's heap, where the system keeps its searches.
-    static int BusyBlocks()
-    {
-        const HANDLE heap = GetProcessHeap();
-        PROCESS_HEAP_ENTRY entry = {};
-        int count = 0;
-        HeapLock(heap);
-        while (HeapWalk(heap, &entry)) {
-            count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? 1 : 0;
-        }
-        HeapUnlock(heap);
-        return count;
-    }
-};
+{};
 
 TEST_F(FailedSearchTest, LeavesNothingOpen)
 {

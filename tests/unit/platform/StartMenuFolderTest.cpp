@@ -1,5 +1,6 @@
 // The folder of the Start menu, as the ceshell substitute tells it.
 #include "platform/ce.h"
+#include "tests/support/BusyBlocks.h"
 #include "tests/support/OwnProfile.h"
 
 #include <gtest/gtest.h>
@@ -20,20 +21,6 @@ class StartMenuFolderTest : public testing::Test
         }
         ASSERT_EQ(SHGetMalloc(&allocator), S_OK);
         ASSERT_NE(allocator, nullptr);
-    }
-
-    // In use in the process's heap.
-    static int BusyBlocks()
-    {
-        const HANDLE heap = GetProcessHeap();
-        PROCESS_HEAP_ENTRY entry = {};
-        int count = 0;
-        HeapLock(heap);
-        while (HeapWalk(heap, &entry)) {
-            count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? 1 : 0;
-        }
-        HeapUnlock(heap);
-        return count;
     }
 
     IMalloc* allocator = nullptr;

@@ -75,4 +75,6 @@ extern "C" {
 __declspec(dllimport) DWORD_PTR WINAPI
     SHGetFileInfo(const wchar_t* path, DWORD attributes, SHFILEINFOW* info, UINT infoSize, UINT flags);
 __declspec(dllimport) BOOL WINAPI ShellExecuteEx(SHELLEXECUTEINFOW* info);
+// The desktop's GetProcAddress takes a narrow name.
+__declspec(dllimport) FARPROC WINAPI GetProcAddressW(HMODULE library, const wchar_t* name);
 }

@@ -1,9 +1,6 @@
 // LateFunction: a function that not every device's library exports, looked up when the program starts.
 #include "platform/device/LateFunction.h"
 
-// The device's function takes a wide name; the desktop's, which <windows.h> declares, a narrow one.
-extern "C" FARPROC WINAPI GetProcAddressW(HMODULE library, const wchar_t* name);
-
 void LateFunction::LookUp()
 {
     // Never freed: a library that a process has called stays with it.

@@ -1,12 +1,13 @@
 // Control: the hidden window by which scripts find the handheld and end it with WM_CLOSE.
 #include "platform/pc/handheld/Control.h"
 
-static constexpr wchar_t controlClass[] = L"QuorvaneHandheldControl";
+#include "platform/pc/common/ControlWindow.h"
+
 static constexpr wchar_t readyProperty[] = L"Ready";
 
 HWND Control::Find()
 {
-    return FindWindowW(controlClass, nullptr);
+    return handheld::FindControl();
 }
 
 bool Control::IsReady(HWND control)
@@ -16,7 +17,7 @@ bool Control::IsReady(HWND control)
 
 bool Control::Open()
 {
-    return Create(controlClass, L"", 0, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, RECT{});
+    return Create(handheld::controlClass, L"", 0, WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, RECT{});
 }
 
 void Control::SetReady()

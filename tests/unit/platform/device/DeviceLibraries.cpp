@@ -14,13 +14,14 @@ static int WINAPI BoxStandIn(HWND, const wchar_t* text, const wchar_t*, UINT)
     return IDOK;
 }
 
-// The device's; no library of a PC has it.
-extern "C" FARPROC WINAPI GetProcAddressW(HMODULE module, const wchar_t* name)
+static FARPROC WINAPI LookUpStandIn(HMODULE module, const wchar_t* name)
 {
     return DeviceLibraries::current->LookUp(module, name);
 }
 
-DeviceLibraries::DeviceLibraries() : load("LoadLibraryW", LoadStandIn), box("MessageBoxW", BoxStandIn)
+DeviceLibraries::DeviceLibraries()
+    : load("LoadLibraryW", LoadStandIn), address("GetProcAddressW", LookUpStandIn),
+      box("MessageBoxW", BoxStandIn)
 {
     current = this;
 }

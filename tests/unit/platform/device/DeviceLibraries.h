@@ -14,6 +14,7 @@
 class DeviceLibraries : public testing::Test
 {
     ImportHook load;
+    ImportHook address;
     ImportHook box;
 
   protected:

@@ -88,6 +88,19 @@ bool CVireoRegistry::ReadString(const wchar_t* name, CStr& text) const
     return true;
 }
 
+bool CVireoRegistry::ReadIfUint(const wchar_t* name, uint32_t* value) const
+{
+    DWORD type = 0;
+    DWORD size = 0;
+    return RegQueryValueExW(key, name, nullptr, &type, nullptr, &size) == ERROR_SUCCESS &&
+           type == REG_DWORD && size == sizeof *value && ReadUint(name, value);
+}
+
+bool CVireoRegistry::ReadIfString(const wchar_t* name, CStr& text) const
+{
+    return GetValueType(name) == REG_SZ && ReadString(name, text);
+}
+
 void CVireoRegistry::WriteUint(const wchar_t* name, uint32_t value)
 {
     const LONG result =

@@ -29,6 +29,9 @@ class CVireoRegistry
     // False leaves the value as it was. The type is not checked, only the size of 4 bytes.
     bool ReadUint(const wchar_t* name, uint32_t* value) const;
     bool ReadString(const wchar_t* name, CStr& text) const; // text becomes dynamic
+    // Anything but a number of 4 bytes, or a string, is as good as no value: for what other programs write.
+    bool ReadIfUint(const wchar_t* name, uint32_t* value) const;
+    bool ReadIfString(const wchar_t* name, CStr& text) const;
     void WriteUint(const wchar_t* name, uint32_t value);
     void WriteString(const wchar_t* name, const wchar_t* text);
     bool IsValueExists(const wchar_t* name) const;

@@ -46,19 +46,6 @@
 #define COLOR_HIGHLIGHT (13 | 0x40000000)
 #define COLOR_HIGHLIGHTTEXT (14 | 0x40000000)
 
-// The orientation of the screen.
-#undef DM_DISPLAYORIENTATION
-#undef DMDO_DEFAULT
-#undef DMDO_90
-#undef DMDO_180
-#undef DMDO_270
-#define DM_DISPLAYORIENTATION 0x00800000
-#define DM_DISPLAYQUERYORIENTATION 0x01000000
-#define DMDO_0 0
-#define DMDO_90 1
-#define DMDO_180 2
-#define DMDO_270 4
-
 // Believed to differ as well; taken away until they are known.
 #undef SW_RESTORE
 #undef SW_MAXIMIZE

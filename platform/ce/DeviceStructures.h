@@ -14,37 +14,6 @@ struct WIN32_FIND_DATAW
     wchar_t cFileName[MAX_PATH];
 };
 
-struct DEVMODEW
-{
-    wchar_t dmDeviceName[32];
-    WORD dmSpecVersion;
-    WORD dmDriverVersion;
-    WORD dmSize;
-    WORD dmDriverExtra;
-    DWORD dmFields;
-    short dmOrientation; // of a printer's paper, as all up to dmCollate
-    short dmPaperSize;
-    short dmPaperLength;
-    short dmPaperWidth;
-    short dmScale;
-    short dmCopies;
-    short dmDefaultSource;
-    short dmPrintQuality;
-    short dmColor;
-    short dmDuplex;
-    short dmYResolution;
-    short dmTTOption;
-    short dmCollate;
-    wchar_t dmFormName[32];
-    WORD dmLogPixels;
-    DWORD dmBitsPerPel;
-    DWORD dmPelsWidth;
-    DWORD dmPelsHeight;
-    DWORD dmDisplayFlags;
-    DWORD dmDisplayFrequency;
-    DWORD dmDisplayOrientation; // of the screen: 0, 1 (90 degrees), 2 (180) or 4 (270)
-};
-
 // <shellapi.h> packs these two without gaps, and so would give them to the device at odd addresses.
 struct SHFILEINFOW
 {

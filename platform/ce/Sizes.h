@@ -15,6 +15,11 @@
 static_assert(sizeof(wchar_t) == 2);
 static_assert(sizeof(HEAPLIST32) == 16);
 
+static_assert(sizeof(DEVMODEW) == 192 && alignof(DEVMODEW) == 4);
+static_assert(offsetof(DEVMODEW, dmSize) == 68);
+static_assert(offsetof(DEVMODEW, dmFields) == 72);
+static_assert(offsetof(DEVMODEW, dmDisplayOrientation) == 188);
+
 #ifdef UNDER_CE
 // The libraries write a structure's members as words.
 template <class Structure>
@@ -48,11 +53,6 @@ static_assert(offsetof(HEAPENTRY32, dwFlags) == 16);
 static_assert(HasSize<WIN32_FIND_DATAW>(560));
 static_assert(offsetof(WIN32_FIND_DATAW, nFileSizeLow) == 32);
 static_assert(offsetof(WIN32_FIND_DATAW, cFileName) == 40);
-
-static_assert(HasSize<DEVMODEW>(192));
-static_assert(offsetof(DEVMODEW, dmSize) == 68);
-static_assert(offsetof(DEVMODEW, dmFields) == 72);
-static_assert(offsetof(DEVMODEW, dmDisplayOrientation) == 188);
 
 static_assert(HasSize<SHMENUBARINFO>(36));
 static_assert(offsetof(SHMENUBARINFO, nToolBarId) == 12);

@@ -9,11 +9,6 @@
 #define LPWIN32_FIND_DATAW DesktopFindDataLongPointer
 #define FindFirstFileW DesktopFindFirstFile
 #define FindNextFileW DesktopFindNextFile
-#define _devicemodeW DesktopDeviceModeTag
-#define DEVMODEW DesktopDeviceMode
-#define PDEVMODEW DesktopDeviceModePointer
-#define NPDEVMODEW DesktopDeviceModeNearPointer
-#define LPDEVMODEW DesktopDeviceModeLongPointer
 #define _SHFILEINFOW DesktopFileInfoTag
 #define SHFILEINFOW DesktopFileInfo
 #define _SHELLEXECUTEINFOW DesktopExecuteInfoTag
@@ -34,11 +29,6 @@
 #undef LPWIN32_FIND_DATAW
 #undef FindFirstFileW
 #undef FindNextFileW
-#undef _devicemodeW
-#undef DEVMODEW
-#undef PDEVMODEW
-#undef NPDEVMODEW
-#undef LPDEVMODEW
 #undef _SHFILEINFOW
 #undef SHFILEINFOW
 #undef _SHELLEXECUTEINFOW
@@ -48,6 +38,8 @@
 #include "platform/ce/DeviceConstants.h"
 #include "platform/ce/DeviceStructures.h"
 #endif
+
+#include "platform/ce/Display.h"
 
 // Windows CE exports these without the W that <windows.h> adds.
 #undef SHGetFileInfo

@@ -34,10 +34,13 @@ void CApp::HandOver(HWND runningInstance) const
 
 bool CApp::OnCreate()
 {
+    homeHeld = false;
+    homeKey.Load();
     CoInitializeEx(nullptr, 0);
     OpenResources();
     startPrograms.Refill(mainWindow);
     AddPages();
+    ClaimKeys();
     return true;
 }
 
@@ -67,6 +70,7 @@ void CApp::AddPages()
 void CApp::OnDestroy()
 {
     startPrograms.Programs().Clear();
+    UnclaimKeys();
     CResources::Close(resources);
     resources = nullptr;
     CoUninitialize();

@@ -6,7 +6,6 @@
 #include "resources/ids.h"
 #include "resources/version.h"
 
-static constexpr UINT_PTR refreshTimer = 1;
 static constexpr UINT refreshMs = 7500;
 static constexpr DWORD closingAllMs =
     1000; // the applications get this long to go before the page is refreshed
@@ -31,7 +30,7 @@ void CApp::OnCommand(uint32_t id, uint32_t /*notifyCode*/, LPARAM /*control*/)
         ShowNotice(L"Settings cmd"); // a placeholder on purpose
         break;
     case CMD_CLOSE_ALL:
-        CloseAll();
+        CloseAll(nullptr);
         break;
     case CMD_ABOUT:
         ShowAbout();
@@ -48,9 +47,9 @@ void CApp::ShowPage(int32_t id)
     BringToFront(mainWindow);
 }
 
-void CApp::CloseAll()
+void CApp::CloseAll(HWND spared)
 {
-    EnumWindows(CloseAllTasksProc, 0);
+    EnumWindows(CloseAllTasksProc, reinterpret_cast<LPARAM>(spared));
     if (HasMainWindow() && HasRefreshablePage()) {
         Sleep(closingAllMs);
         RefreshCurrentPage();
@@ -65,12 +64,12 @@ void CApp::ShowAbout()
 void CApp::OnActivate()
 {
     RefreshCurrentPage();
-    SetTimer(mainWindow, refreshTimer, refreshMs, nullptr);
+    SetTimer(mainWindow, RefreshTimer, refreshMs, nullptr);
 }
 
 void CApp::OnDeactivate()
 {
-    KillTimer(mainWindow, refreshTimer);
+    KillTimer(mainWindow, RefreshTimer);
 }
 
 bool CApp::HasRefreshablePage() const
@@ -85,6 +84,23 @@ void CApp::RefreshCurrentPage()
     }
 }
 
+void CApp::OnTimer(WPARAM timer)
+{
+    switch (timer) {
+    case RefreshTimer:
+        RefreshCurrentPage();
+        break;
+    case HoldTimer:
+        OnHoldTimer();
+        break;
+    case HomeTimer:
+        OnHomeTimer();
+        break;
+    default:
+        break;
+    }
+}
+
 LRESULT CApp::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
@@ -95,17 +111,22 @@ LRESULT CApp::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         }
         break;
     case WM_COPYDATA:
-        keyPress.Read(reinterpret_cast<const COPYDATASTRUCT*>(lParam));
+        if (keyPress.Read(reinterpret_cast<const COPYDATASTRUCT*>(lParam))) {
+            AwaitRelease();
+        }
         return TRUE;
     case WM_TIMER:
-        if (wParam == refreshTimer) {
-            RefreshCurrentPage();
-        }
+        OnTimer(wParam);
         break;
     case WM_HOTKEY:
         if (HIWORD(lParam) == VK_ESCAPE) {
             SHSendBackToFocusWindow(message, wParam, lParam);
+        } else if (HIWORD(lParam) == VK_LWIN) {
+            OnHomeKey((LOWORD(lParam) & MOD_KEYUP) != 0);
         }
+        break;
+    case keyActionMessage:
+        PerformAction(wParam);
         break;
     default:
         break;

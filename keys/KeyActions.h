@@ -22,6 +22,14 @@ enum KeyAction : int32_t
     KeyActionLockKeys = 12
 };
 
+// The main window's private message that carries out what was pressed; wParam: how long it was.
+inline constexpr UINT keyActionMessage = WM_APP + 100;
+enum KeyPressLength : WPARAM
+{
+    KeyPressed = 1,
+    KeyHeld = 2
+};
+
 inline constexpr uint32_t keyActionCount = 13;
 // What the user chooses them by, in the order of their numbers.
 inline constexpr const wchar_t* keyActionTexts[keyActionCount] = {

@@ -37,8 +37,11 @@ class ProgramApp : public CApp
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     using CApp::dialogs;
+    using CApp::homeHeld;
+    using CApp::homeKey;
     using CApp::infoWindow;
     using CApp::keyPress;
+    using CApp::platform;
     using CApp::resources;
     using CApp::startPrograms;
     using CApp::views;

@@ -278,7 +278,7 @@ TEST_F(CAppTest, AStartByAButtonIsMinimised)
     std::vector<int> commands;
     SPY(ShowWindow) show;
     ProgramApp app;
-    app.commandLine = L"193 3*9";
+    app.commandLine = L"193 1*1";
     app.body = [&] {
         for (const auto& [window, command] : show.calls) {
             if (window == app.MainWindow()) {

@@ -1,4 +1,4 @@
-// The program keeps no settings: it opens no file but its pictures and writes nothing into the registry.
+// The program writes nothing unless it is told to: it opens no file but its pictures, and leaves the registry.
 #include "framework/CVireoRegistry.h"
 #include "resources/ids.h"
 #include "tests/support/TestKey.h"

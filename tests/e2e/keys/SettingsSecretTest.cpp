@@ -1,0 +1,32 @@
+// The path of the settings does not stand in the executable as text.
+#include "rig/ChildProcess.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+static std::string FileBytes(const std::wstring& path)
+{
+    std::ifstream file(std::string(path.begin(), path.end()), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+static std::string Utf16(const std::string& text)
+{
+    std::string bytes;
+    for (const char character : text) {
+        bytes += {character, '\0'};
+    }
+    return bytes;
+}
+
+TEST(SettingsSecretTest, NeitherWideNorNarrow)
+{
+    const std::string program = FileBytes(rig::ProgramFolder() + L"\\Quorvane.exe");
+    ASSERT_NE(program.find(Utf16("HomeKeyCommand")), std::string::npos) << "it cannot be searched so";
+    for (const std::string text : {"HomeKeySetting", "Software\\Quorvane"}) {
+        EXPECT_EQ(program.find(text), std::string::npos) << text;
+        EXPECT_EQ(program.find(Utf16(text)), std::string::npos) << text;
+    }
+}

@@ -47,6 +47,7 @@ class CApp : public CVireoApp
     void RefreshCurrentPage();
     // All applications but the program itself and, unless null, one more.
     void CloseAll(HWND spared);
+    void ShowHardwareKeys();
     void ShowAbout();
     void HandOver(HWND runningInstance) const;
 

@@ -2,6 +2,8 @@
 #include "app/CApp.h"
 
 #include "framework/CVireoView.h"
+#include "keys/CDialogKeys.h"
+#include "keys/CDialogKeys_SP.h"
 #include "pages/tasks/CloseTasks.h"
 #include "resources/ids.h"
 #include "resources/version.h"
@@ -29,6 +31,9 @@ void CApp::OnCommand(uint32_t id, uint32_t /*notifyCode*/, LPARAM /*control*/)
     case CMD_SETTINGS:
         ShowNotice(L"Settings cmd"); // a placeholder on purpose
         break;
+    case CMD_HARDWARE_KEYS:
+        ShowHardwareKeys();
+        break;
     case CMD_CLOSE_ALL:
         CloseAll(nullptr);
         break;
@@ -53,6 +58,15 @@ void CApp::CloseAll(HWND spared)
     if (HasMainWindow() && HasRefreshablePage()) {
         Sleep(closingAllMs);
         RefreshCurrentPage();
+    }
+}
+
+void CApp::ShowHardwareKeys()
+{
+    if (platform == Platform::Smartphone) {
+        CDialogKeys_SP::Show(startPrograms, homeKey);
+    } else {
+        CDialogKeys::Show(startPrograms);
     }
 }
 

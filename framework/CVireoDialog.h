@@ -57,6 +57,8 @@ class CVireoDialog
     bool EndOnCloseCommand(uint32_t commandId);
     // Makes one control fill the client area.
     void FillClient(int controlId);
+    // Puts the dialog where it belongs over the main window.
+    void Place();
 
   private:
     bool reached = false; // the window came as far as its initialisation
@@ -68,7 +70,6 @@ class CVireoDialog
     int RunLoop();
     bool Initialise();
     bool MakeMenuBar();
-    void Place();
     void AnchorToBottom(int bottom);
     void SettingChanged(WPARAM wParam, LPARAM lParam);
     INT_PTR HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);

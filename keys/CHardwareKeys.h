@@ -15,6 +15,7 @@ class CHardwareKeys
     uint32_t Count() const { return keys.Count(); }
     SHardwareKey& At(uint32_t index) { return *keys.At(index); }
 
+    void Clear() { keys.Clear(); }
     // Reads all buttons anew, by their names; none when the device's shell keeps none.
     void Load();
     // Writes every button whose command is to change. False when it had to stop, which the user was told;

@@ -28,6 +28,7 @@
 #define IDB_PROCS 171
 #define IDB_INFORMATION 170
 #define IDB_WINDOWS 173
+#define IDB_KEYS 169
 #define IDB_SELECT_APP 177
 #define IDM_TASKS 134
 #define IDM_SYSINFO 102
@@ -42,16 +43,25 @@
 #define IDA_START 137
 #define IDA_PROCS 33595
 #define IDA_INFORMATION 115
+#define IDA_KEYS 143
 
 // dialog templates
 #define IDD_INFORMATION 125
 #define IDD_WINDOWS 133
+#define IDD_KEYS 142
+#define IDD_KEYS_SP 144 // of a Smartphone
 
 // controls
 #define IDC_LIST 110
 #define IDC_INFORMATION_TEXT 126
 #define IDC_SEARCH 175
 #define IDC_WINDOWS_TREE 1000
+#define IDC_KEY_LIST 1005
+#define IDC_PRESS_ACTION 1006
+#define IDC_HOME_ACTION 1006 // of a Smartphone's only list
+#define IDC_HOLD_ACTION 1007
+#define IDC_PRESS_LABEL 1008
+#define IDC_HOLD_LABEL 1009
 
 // commands shared by the pages
 #define CMD_HIDE 112
@@ -96,3 +106,4 @@
 #define CMD_TEXT_TAB 119
 #define CMD_TEXT_UP 120
 #define CMD_TEXT_ENTER 121
+#define CMD_SHOW_KEY 176

@@ -23,6 +23,10 @@ class ScriptedSettings
         key.Write(name, type, data, size);
     }
 
+    // What is written; -1 and empty without.
+    long long Command() const;
+    std::wstring File() const;
+
   private:
     TestKey key;
     SPY(RegOpenKeyExW) open;

@@ -65,7 +65,7 @@ static Lines PageMenu(const Lines& head)
                         L"}",
                         L"-",
                         L"More {",
-                        L"32814 Hardware keys (grey)",
+                        L"32814 Hardware keys",
                         L"-",
                         L"32771 About",
                         L"}",
@@ -201,6 +201,8 @@ TEST(ResourcesTest, TheSoftKeysOfTheDialogs)
                                    0xFFFE, 113, 4, 0x18, 204, 0, 0}));
     EXPECT_EQ(MenuBar(177), (Words{0, 2, 0xFFFE, 1, 4, 0x10, 207, 0, 0xFFFF, //
                                    0xFFFE, 2, 4, 0x10, 208, 0, 0xFFFF}));
+    EXPECT_EQ(MenuBar(169), (Words{0, 2, 0xFFFE, 1, 4, 0x10, 103, 0, 0xFFFF, //
+                                   0xFFFE, 2, 4, 0x10, 208, 0, 0xFFFF}));
 }
 
 TEST(ResourcesTest, TheKeysOfTheProgram)
@@ -237,6 +239,11 @@ TEST(ResourcesTest, TheKeysOfTheInformationDialog)
         Accelerators(115),
         (std::vector<Key>{
             {VK_DOWN, 116}, {VK_LEFT, 117}, {VK_RIGHT, 118}, {VK_TAB, 119}, {VK_UP, 120}, {VK_RETURN, 121}}));
+}
+
+TEST(ResourcesTest, TheKeyOfTheHardwareKeysDialogs)
+{
+    EXPECT_EQ(Accelerators(143), (std::vector<Key>{{VK_RETURN, 114}}));
 }
 
 TEST(ResourcesTest, TheProgramHasAnIcon)

@@ -54,6 +54,7 @@ void Tour::Run()
     ShowStart();
     ShowStartButton();
     ShowProcs();
+    ShowKeys();
     program.Command(CMD_EXIT);
     Require(program.ExitCode(patience) == 0u,
             "Quorvane did not end by its Exit command with the exit code 0");

@@ -50,6 +50,7 @@ class Tour
     // Types into the search box in place of what is there.
     void Search(const wchar_t* text);
     void ShowProcs();
+    void ShowKeys();
     void ShowEnding();
 
     // A row of the processes by the name of its executable.

@@ -18,6 +18,13 @@ static HINSTANCE ThisModule()
     return module;
 }
 
+RECT MenuBar::Place()
+{
+    RECT place = handheld::ScreenRect();
+    place.top = place.bottom - handheld::BarHeight();
+    return place;
+}
+
 HWND MenuBar::Create(HWND owner, HINSTANCE resources, UINT resourceId)
 {
     if (!RegisterWindowClass()) {
@@ -29,13 +36,12 @@ HWND MenuBar::Create(HWND owner, HINSTANCE resources, UINT resourceId)
         delete bar;
         return nullptr;
     }
-    const RECT screen = handheld::ScreenRect();
+    const RECT place = Place();
     const DWORD visible = IsWindowVisible(owner) ? WS_VISIBLE : 0;
     // From WM_NCCREATE on the window owns the object.
-    const HWND window =
-        CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, handheld::menuBarClass, nullptr,
-                        WS_POPUP | visible, screen.left, screen.bottom - handheld::BarHeight(),
-                        screen.right - screen.left, handheld::BarHeight(), owner, nullptr, ThisModule(), bar);
+    const HWND window = CreateWindowExW(WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW, handheld::menuBarClass, nullptr,
+                                        WS_POPUP | visible, place.left, place.top, place.right - place.left,
+                                        place.bottom - place.top, owner, nullptr, ThisModule(), bar);
     // At once: it takes the place of the bar that was just destroyed, and its owner may be busy for a while.
     if (window) {
         UpdateWindow(window);
@@ -66,6 +72,7 @@ bool MenuBar::RegisterWindowClass()
         return true;
     }
     windowClass = {};
+    windowClass.style = CS_HREDRAW | CS_VREDRAW;
     windowClass.lpfnWndProc = WindowProcedure;
     windowClass.hInstance = ThisModule();
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
@@ -217,6 +224,13 @@ LRESULT CALLBACK MenuBar::WindowProcedure(HWND window, UINT message, WPARAM wPar
 LRESULT MenuBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
+    case WM_SETTINGCHANGE:
+        if (wParam == WM_SETTINGCHANGE_RESET) {
+            const RECT place = Place();
+            SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left,
+                         place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+        }
+        return 0;
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
     case WM_PAINT: {

@@ -27,6 +27,7 @@ class MenuBar
     MenuBar() = default;
     ~MenuBar();
 
+    static RECT Place();
     static bool RegisterWindowClass();
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 

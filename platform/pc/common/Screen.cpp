@@ -1,7 +1,8 @@
-// The handheld's screen, from the active profile.
+// The handheld's screen, from the active profile and the way it is held.
 #include "platform/pc/common/Screen.h"
 
 #include "platform/pc/common/ActiveProfile.h"
+#include "platform/pc/common/Orientation.h"
 
 namespace handheld {
 
@@ -41,7 +42,8 @@ int BarHeight()
 RECT ScreenRect()
 {
     const Profile& profile = ActiveProfile();
-    return {0, 0, profile.width, profile.height};
+    const bool sideways = IsSideways(ScreenOrientation());
+    return {0, 0, sideways ? profile.height : profile.width, sideways ? profile.width : profile.height};
 }
 
 RECT ProgramRect()

@@ -11,7 +11,8 @@ int Scaled(int n);
 // Height of the top bar and of a soft-key bar.
 int BarHeight();
 
-// The whole screen. It starts at the top left of the desktop, which under Wine has exactly its size.
+// The whole screen, as it is turned now. It starts at the top left of the desktop, which under Wine has
+// exactly its size.
 RECT ScreenRect();
 
 // What a program's main window covers: everything below the top bar.

@@ -1,5 +1,6 @@
 // What kind of device this is: its system version, platform name and screen resolution.
 #include "platform/pc/common/ActiveProfile.h"
+#include "platform/pc/common/Screen.h"
 
 #include <windows.h>
 
@@ -38,15 +39,14 @@ extern "C" BOOL WINAPI ce_SystemParametersInfoW(UINT action, UINT size, void* bu
 extern "C" int WINAPI ce_GetDeviceCaps(HDC dc, int index)
 {
     if (GetDeviceCaps(dc, TECHNOLOGY) == DT_RASDISPLAY) {
-        const handheld::Profile& profile = handheld::ActiveProfile();
         switch (index) {
         case LOGPIXELSX:
         case LOGPIXELSY:
-            return profile.dpi;
+            return handheld::ActiveProfile().dpi;
         case HORZRES:
-            return profile.width;
+            return handheld::ScreenRect().right;
         case VERTRES:
-            return profile.height;
+            return handheld::ScreenRect().bottom;
         }
     }
     return GetDeviceCaps(dc, index);

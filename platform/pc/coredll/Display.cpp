@@ -1,6 +1,7 @@
 // The orientation of the screen.
 #include "platform/ce.h"
 #include "platform/pc/common/Orientation.h"
+#include "platform/pc/common/TurnRequest.h"
 
 static LONG Answer(DEVMODEW& mode)
 {
@@ -15,8 +16,7 @@ static LONG Turn(const DEVMODEW& mode)
     if (mode.dmFields != DM_DISPLAYORIENTATION || !handheld::IsOrientation(mode.dmDisplayOrientation)) {
         return DISP_CHANGE_BADMODE;
     }
-    return handheld::KeepOrientation(static_cast<int>(mode.dmDisplayOrientation)) ? DISP_CHANGE_SUCCESSFUL
-                                                                                  : DISP_CHANGE_FAILED;
+    return handheld::AskToTurn(static_cast<int>(mode.dmDisplayOrientation));
 }
 
 // Never the PC's own function: it takes a longer record, and the device's bit for the orientation is another

@@ -2,6 +2,8 @@
 #include "platform/pc/handheld/Control.h"
 
 #include "platform/pc/common/ControlWindow.h"
+#include "platform/pc/common/TurnRequest.h"
+#include "platform/pc/handheld/ScreenTurn.h"
 
 static constexpr wchar_t readyProperty[] = L"Ready";
 
@@ -31,6 +33,10 @@ LRESULT Control::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CLOSE:
         PostQuitMessage(0);
         return 0;
+    case handheld::WM_TURN_SCREEN: {
+        const long result = TurnScreen(static_cast<int>(wParam));
+        return result == DISP_CHANGE_SUCCESSFUL ? handheld::turned : result;
+    }
     case WM_NCDESTROY:
         RemovePropW(Window(), readyProperty);
         break;

@@ -14,6 +14,7 @@ bool ShellWindow::Create(const wchar_t* className, const wchar_t* title, DWORD s
                          const RECT& rect)
 {
     WNDCLASSW windowClass = {};
+    windowClass.style = CS_HREDRAW | CS_VREDRAW; // all of a bar or of the home screen depends on its size
     windowClass.lpfnWndProc = WindowProcedure;
     windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);

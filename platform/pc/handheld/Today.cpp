@@ -11,6 +11,7 @@ using handheld::Scaled;
 static constexpr UINT_PTR dateTimer = 1;
 static constexpr UINT dateInterval = 20000; // ms
 static constexpr int lineHeight = 36;       // at 96 dpi
+static constexpr size_t sizeLine = 1;       // which of the lines tells the screen's size
 static constexpr wchar_t programFile[] = L"Quorvane.exe";
 
 static constexpr COLORREF skyTop = RGB(28, 74, 140);
@@ -41,15 +42,20 @@ static std::wstring OwnerName()
     return GetUserNameW(name, &size) ? name : L"";
 }
 
+static std::wstring ScreenSize()
+{
+    const RECT screen = handheld::ScreenRect();
+    return std::to_wstring(screen.right) + L" x " + std::to_wstring(screen.bottom) + L" pixels, " +
+           std::to_wstring(handheld::ActiveProfile().dpi) + L" dpi";
+}
+
 Today::Today()
     : program(ProgramPath()), bold(handheld::CreateScreenFont(9, FW_BOLD)),
       normal(handheld::CreateScreenFont(8, FW_NORMAL)), large(handheld::CreateScreenFont(11, FW_BOLD))
 {
     const handheld::Profile& profile = handheld::ActiveProfile();
-    const std::wstring size = std::to_wstring(profile.width) + L" x " + std::to_wstring(profile.height) +
-                              L" pixels, " + std::to_wstring(profile.dpi) + L" dpi";
     lines = {{L"Owner", OwnerName(), RGB(244, 180, 60)},
-             {profile.IsSmartphone() ? L"Smartphone" : L"Pocket PC", size, RGB(110, 190, 90)},
+             {profile.IsSmartphone() ? L"Smartphone" : L"Pocket PC", ScreenSize(), RGB(110, 190, 90)},
              {L"Soft keys", L"F1 is the left one, F2 the right one", RGB(214, 96, 80)}};
 }
 
@@ -76,6 +82,9 @@ bool Today::Open()
 LRESULT Today::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
+    case WM_SIZE:
+        lines[sizeLine].detail = ScreenSize();
+        return 0;
     case WM_TIMER:
         UpdateDate();
         return 0;

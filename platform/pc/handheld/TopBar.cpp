@@ -41,10 +41,16 @@ TopBar::~TopBar()
     DeleteObject(normal);
 }
 
-bool TopBar::Open()
+RECT TopBar::Place()
 {
     RECT rect = handheld::ScreenRect();
     rect.bottom = rect.top + handheld::BarHeight();
+    return rect;
+}
+
+bool TopBar::Open()
+{
+    const RECT rect = Place();
     title = TitleOfForeground();
     time = TimeOfDay();
     const wchar_t* const text = title.c_str(); // the bar's own text is what it shows, for those who watch it
@@ -75,6 +81,12 @@ LRESULT TopBar::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CAPTURECHANGED:
         flag.Cancel();
         return 0;
+    case WM_SETTINGCHANGE: {
+        const RECT rect = Place();
+        SetWindowPos(Window(), nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        return 0;
+    }
     case WM_MOUSEACTIVATE:
         return MA_NOACTIVATE;
     default:

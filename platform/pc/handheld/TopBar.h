@@ -16,6 +16,7 @@ class TopBar final : public ShellWindow
   private:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void Paint(handheld::Surface& surface) override;
+    static RECT Place();
     std::wstring TitleOfForeground() const;
     void MakeRoom(HWND front) const;
     void Update();

@@ -1,0 +1,97 @@
+// TurnedSession: Quorvane on a handheld that the tests turn.
+#include "tests/e2e/TurnedSession.h"
+
+#include "rig/Orientation.h"
+#include "rig/Picture.h"
+
+using namespace rig;
+
+static bool Is(const RECT& wanted, HWND window)
+{
+    const RECT place = ScreenRectOf(window);
+    return EqualRect(&wanted, &place);
+}
+
+static std::string Text(const RECT& rect)
+{
+    return std::to_string(rect.left) + "," + std::to_string(rect.top) + " to " + std::to_string(rect.right) +
+           "," + std::to_string(rect.bottom);
+}
+
+static void ExpectPlace(const char* name, const RECT& wanted, HWND window)
+{
+    EXPECT_TRUE(WaitFor([&] { return Is(wanted, window); }))
+        << name << " is at " << Text(ScreenRectOf(window)) << " instead of " << Text(wanted);
+}
+
+TurnedSession::~TurnedSession()
+{
+    TurnScreen(upright);
+}
+
+void TurnedSession::Turn(int orientation)
+{
+    ASSERT_TRUE(TurnScreen(orientation)) << "the handheld refuses to be turned";
+}
+
+void TurnedSession::TurnSideways() const
+{
+    Turn(turnedBy270);
+    ASSERT_TRUE(WaitFor([&] {
+        const RECT screen = ScreenRect();
+        return screen.right == uprightScreen.bottom && screen.bottom == uprightScreen.right;
+    })) << "the screen is "
+        << Text(ScreenRect());
+}
+
+void TurnedSession::TurnUpright() const
+{
+    Turn(upright);
+    ASSERT_TRUE(WaitFor([&] {
+        const RECT screen = ScreenRect();
+        return EqualRect(&screen, &uprightScreen);
+    })) << "the screen is "
+        << Text(ScreenRect());
+}
+
+void TurnedSession::ExpectLaidOut(int page) const
+{
+    const RECT screen = ScreenRect();
+    const LONG barHeight = Scaled(26);
+    const LONG barTop = screen.bottom - barHeight;
+    ExpectPlace("the top bar", {0, 0, screen.right, barHeight},
+                FindTopWindow({.className = L"Shell_TrayWnd"}));
+    ExpectPlace("the home screen", {0, barHeight, screen.right, screen.bottom},
+                FindTopWindow({.className = L"DesktopExplorerWindow"}));
+    ExpectPlace("the program", {0, barHeight, screen.right, barTop}, main);
+    ExpectPlace("the soft-key bar", {0, barTop, screen.right, screen.bottom}, BarOf(main));
+    ExpectPlace("the page", {0, barHeight, screen.right, barTop}, program->Page(page));
+    if (const HWND list = program->List(page)) {
+        ExpectPlace("the list", {0, ScreenRectOf(list).top, screen.right, barTop}, list);
+    }
+    if (const HWND box = SearchBox(page)) {
+        EXPECT_EQ(ScreenRectOf(box).left, screen.right - ScreenRectOf(box).right);
+    }
+}
+
+void TurnedSession::Show(int page) const
+{
+    const int commands[] = {0, ShowTasksCommand, ShowSysInfoCommand, ShowStartCommand, ShowProcsCommand};
+    program->Command(commands[page]);
+    ASSERT_TRUE(program->WaitForPage(page)) << page;
+    Send(main, WM_COMMAND, RefreshCommand); // no other refresh comes in the next seconds
+}
+
+void TurnedSession::ExpectNothingStale() const
+{
+    const RECT screen = ScreenRect();
+    const RECT area = {0, Scaled(26), screen.right, screen.bottom};
+    Picture::OfSettledScreen();
+    const Picture shown = Picture::OfScreen(area);
+    for (HWND window : TopWindows()) {
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    }
+    Send(main, WM_NULL);
+    Picture::OfSettledScreen();
+    EXPECT_TRUE(shown == Picture::OfScreen(area)) << "what was shown was not what belongs there";
+}

@@ -1,0 +1,26 @@
+// TurnedSession: Quorvane on a handheld that the tests turn.
+#pragma once
+
+#include "tests/e2e/ShellSession.h"
+
+class TurnedSession : public ShellSession
+{
+  protected:
+    const RECT uprightScreen = ScreenRect();
+
+    // Leaves the handheld as it was.
+    ~TurnedSession() override;
+
+    // Turns the screen and waits until it has its other size.
+    static void Turn(int orientation);
+    void TurnSideways() const;
+    void TurnUpright() const;
+
+    // The top bar, the program, its soft-key bar and the page have taken their places on the screen as it is
+    // now.
+    void ExpectLaidOut(int page) const;
+    void Show(int page) const;
+
+    // What is on the screen below the top bar would be the same if everything were painted anew.
+    void ExpectNothingStale() const;
+};

@@ -4,6 +4,8 @@
 #include "rig/Orientation.h"
 #include "rig/Picture.h"
 
+#include <commctrl.h>
+
 using namespace rig;
 
 static bool Is(const RECT& wanted, HWND window)
@@ -18,7 +20,7 @@ static std::string Text(const RECT& rect)
            "," + std::to_string(rect.bottom);
 }
 
-static void ExpectPlace(const char* name, const RECT& wanted, HWND window)
+void TurnedSession::ExpectPlace(const char* name, const RECT& wanted, HWND window)
 {
     EXPECT_TRUE(WaitFor([&] { return Is(wanted, window); }))
         << name << " is at " << Text(ScreenRectOf(window)) << " instead of " << Text(wanted);
@@ -68,6 +70,10 @@ void TurnedSession::ExpectLaidOut(int page) const
     ExpectPlace("the page", {0, barHeight, screen.right, barTop}, program->Page(page));
     if (const HWND list = program->List(page)) {
         ExpectPlace("the list", {0, ScreenRectOf(list).top, screen.right, barTop}, list);
+        const RECT rows = ClientRectOnScreen(list);
+        EXPECT_TRUE(WaitFor([&] { return Send(list, LVM_GETCOLUMNWIDTH) == rows.right - rows.left; }))
+            << "the rows of page " << page << " are " << Send(list, LVM_GETCOLUMNWIDTH) << " wide in "
+            << rows.right - rows.left;
     }
     if (const HWND box = SearchBox(page)) {
         EXPECT_EQ(ScreenRectOf(box).left, screen.right - ScreenRectOf(box).right);
@@ -82,16 +88,27 @@ void TurnedSession::Show(int page) const
     Send(main, WM_COMMAND, RefreshCommand); // no other refresh comes in the next seconds
 }
 
-void TurnedSession::ExpectNothingStale() const
+// All below the top bar, without a search box, whose caret blinks.
+std::vector<Picture> TurnedSession::Parts(int page) const
 {
     const RECT screen = ScreenRect();
     const RECT area = {0, Scaled(26), screen.right, screen.bottom};
     Picture::OfSettledScreen();
-    const Picture shown = Picture::OfScreen(area);
+    const HWND box = SearchBox(page);
+    if (!box) {
+        return {Picture::OfScreen(area)};
+    }
+    const RECT place = ScreenRectOf(box);
+    return {Picture::OfScreen({0, area.top, area.right, place.top}),
+            Picture::OfScreen({0, place.bottom, area.right, area.bottom})};
+}
+
+void TurnedSession::ExpectNothingStale(int page) const
+{
+    const std::vector<Picture> shown = Parts(page);
     for (HWND window : TopWindows()) {
         RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
     }
     Send(main, WM_NULL);
-    Picture::OfSettledScreen();
-    EXPECT_TRUE(shown == Picture::OfScreen(area)) << "what was shown was not what belongs there";
+    EXPECT_TRUE(shown == Parts(page)) << "what was shown on page " << page << " was not what belongs there";
 }

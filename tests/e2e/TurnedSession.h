@@ -1,6 +1,7 @@
 // TurnedSession: Quorvane on a handheld that the tests turn.
 #pragma once
 
+#include "rig/Picture.h"
 #include "tests/e2e/ShellSession.h"
 
 class TurnedSession : public ShellSession
@@ -18,9 +19,11 @@ class TurnedSession : public ShellSession
 
     // The top bar, the program, its soft-key bar and the page have taken their places on the screen as it is
     // now.
+    static void ExpectPlace(const char* name, const RECT& wanted, HWND window);
     void ExpectLaidOut(int page) const;
     void Show(int page) const;
 
-    // What is on the screen below the top bar would be the same if everything were painted anew.
-    void ExpectNothingStale() const;
+    std::vector<rig::Picture> Parts(int page) const;
+    // What is on the screen would be the same if everything were painted anew.
+    void ExpectNothingStale(int page) const;
 };

@@ -1,4 +1,4 @@
-// BoxLayout: lays a message box out anew that is wider than the handheld's screen.
+// BoxLayout: lays a message box out anew that is larger than the handheld's screen.
 #include "platform/pc/common/BoxLayout.h"
 
 #include "platform/pc/common/BoxParts.h"
@@ -59,12 +59,22 @@ static int PlaceButtons(const std::vector<HWND>& buttons, int y, int width, int 
     return height;
 }
 
+void FollowScreen(HWND box)
+{
+    FitIntoScreen(box);
+    const RECT screen = ProgramRect();
+    const SIZE size = SizeOf(box);
+    SetWindowPos(box, nullptr, screen.left + (screen.right - screen.left - size.cx) / 2,
+                 screen.top + std::max<int>(0, (screen.bottom - screen.top - size.cy) / 2), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void FitIntoScreen(HWND box)
 {
     const RECT screen = ProgramRect();
     const int screenWidth = screen.right - screen.left;
     const SIZE whole = SizeOf(box);
-    if (whole.cx <= screenWidth) {
+    if (whole.cx <= screenWidth && whole.cy <= screen.bottom - screen.top) {
         return;
     }
     RECT client = {};

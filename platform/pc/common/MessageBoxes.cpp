@@ -33,6 +33,11 @@ static LRESULT CALLBACK MendBox(int code, WPARAM wParam, LPARAM lParam)
         // The box is complete when it has initialised itself, and not yet shown.
         if (returned.message == WM_INITDIALOG) {
             FitIntoScreen(returned.hwnd);
+            SetPropW(returned.hwnd, boxProperty, reinterpret_cast<HANDLE>(1));
+        } else if (returned.message == WM_SETTINGCHANGE && GetPropW(returned.hwnd, boxProperty)) {
+            FollowScreen(returned.hwnd);
+        } else if (returned.message == WM_DESTROY) {
+            RemovePropW(returned.hwnd, boxProperty);
             // The first window that a process shows gets the caption of an inactive one from Wine 8.0.
         } else if (returned.message == WM_ACTIVATE && LOWORD(returned.wParam) != WA_INACTIVE) {
             SendMessageW(returned.hwnd, WM_NCACTIVATE, TRUE, 0);

@@ -4,6 +4,8 @@
 #include "platform/pc/common/ProfileSections.h"
 #include "platform/pc/common/ProfileText.h"
 
+#include <utility>
+
 namespace handheld {
 
 static void SetInt(int& field, std::wstring_view text, int lowest, int highest)
@@ -34,6 +36,18 @@ static std::vector<std::wstring> CardNames(std::wstring_view value)
     return cards;
 }
 
+// In degrees.
+static void SetOrientation(int& field, std::wstring_view text)
+{
+    static constexpr std::pair<int, int> orientations[] = {{0, 0}, {90, 1}, {180, 2}, {270, 4}};
+    const std::optional<int> degrees = Number<int>(text);
+    for (const auto& [known, orientation] : orientations) {
+        if (degrees == known) {
+            field = orientation;
+        }
+    }
+}
+
 void SetHandheldKey(Profile& profile, const std::wstring& key, std::wstring_view value)
 {
     if (key == L"platform") {
@@ -46,6 +60,8 @@ void SetHandheldKey(Profile& profile, const std::wstring& key, std::wstring_view
         SetInt(profile.height, value, 96, 4096);
     } else if (key == L"dpi") {
         SetInt(profile.dpi, value, 72, 480);
+    } else if (key == L"orientation") {
+        SetOrientation(profile.orientation, value);
     } else if (key == L"tier") {
         SetInt(profile.securityTier, value, 1, 2);
     } else if (key == L"root") {

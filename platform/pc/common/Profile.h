@@ -12,9 +12,10 @@ namespace handheld {
 struct Profile
 {
     std::wstring platformName = L"PocketPC"; // as SPI_GETPLATFORMTYPE answers it
-    int width = 240;                         // pixels of the screen
+    int width = 240;                         // pixels of the screen, upright
     int height = 320;
     int dpi = 96;
+    int orientation = 0;             // how it is held at the start, as Orientation.h names it
     int securityTier = 0;            // 1 or 2; 0 leaves it to the failure at hand
     std::wstring root;               // folder without a backslash at its end; empty: the system's drive
     std::wstring startMenu;          // folder on the device; empty: the PC's own

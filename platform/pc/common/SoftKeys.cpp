@@ -1,6 +1,8 @@
 // Soft keys of the active window.
 #include "platform/pc/common/SoftKeys.h"
 
+#include "platform/pc/common/Screen.h"
+
 namespace handheld {
 
 namespace {
@@ -84,6 +86,17 @@ bool HandleSoftKey(const MSG& message)
     return true;
 }
 
+// A menu that is too long scrolls between the bars instead of covering them.
+static void KeepBetweenBars(HMENU menu)
+{
+    const RECT area = ProgramRect();
+    MENUINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = MIM_MAXHEIGHT | MIM_APPLYTOSUBMENUS;
+    info.cyMax = static_cast<UINT>(area.bottom - BarHeight() - area.top);
+    SetMenuInfo(menu, &info);
+}
+
 int TrackMenu(HMENU menu, UINT flags, int x, int y, HWND owner, const TPMPARAMS* parameters,
               const MenuKey& ownKey)
 {
@@ -96,6 +109,7 @@ int TrackMenu(HMENU menu, UINT flags, int x, int y, HWND owner, const TPMPARAMS*
     if (parameters) {
         copy = *parameters;
     }
+    KeepBetweenBars(menu);
     const int result = TrackPopupMenuEx(menu, flags, x, y, owner, parameters ? &copy : nullptr);
     openMenu = outer;
     if (open.hook) {

@@ -2,6 +2,7 @@
 #include "platform/pc/common/TurnedPlace.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace handheld {
 
@@ -15,14 +16,15 @@ struct Span
 
 } // namespace
 
-// The room on both sides keeps its proportion, so what touches an edge goes on touching it.
+// The distance to the nearer edge stays, or the middle.
 static Span TurnedSpan(const Span& place, const Span& before, const Span& after)
 {
     const LONG length = std::min(place.end - place.begin, after.end - after.begin);
-    const LONG room = before.end - before.begin - (place.end - place.begin);
-    const LONG newRoom = after.end - after.begin - length;
-    const LONG left = std::clamp<LONG>(place.begin - before.begin, 0, std::max<LONG>(room, 0));
-    const LONG begin = after.begin + (room > 0 ? left * newRoom / room : newRoom / 2);
+    const LONG room = after.end - after.begin - length;
+    const LONG front = place.begin - before.begin;
+    const LONG back = before.end - place.end;
+    const LONG gap = std::abs(front - back) <= 1 ? room / 2 : front < back ? front : room - back;
+    const LONG begin = after.begin + std::clamp<LONG>(gap, 0, room);
     return {begin, begin + length};
 }
 

@@ -16,8 +16,8 @@ struct ScreenChange
 // Whether a window has all of the screen that it can have.
 bool CoversScreen(const RECT& place, const ScreenChange& change);
 
-// A window that covers the screen covers it again; any other keeps its size, as far as there is room, and
-// what it touched, or the middle.
+// A window that covers the screen covers it again; any other keeps its size, as far as there is room, and its
+// distance to the nearer edges, or the middle.
 RECT TurnedPlace(const RECT& place, const ScreenChange& change);
 
 } // namespace handheld

@@ -1,7 +1,8 @@
 // Corrects the repainting of a virtual list view: Wine 8.0 scrolls and paints before it moves the selection
 // mark, and it leaves the two leftmost pixel columns out. A list whose rows are drawn by the mark would show
 // several selected rows. And where the focus comes or goes it asks for the focused row as one that is not
-// selected, at the wrong place and straight on the screen.
+// selected, at the wrong place and straight on the screen. Scroll bars that a larger list does not need go
+// only when the next column is made, which is then too narrow.
 #include "platform/pc/coredll/ListViewFix.h"
 
 #include <commctrl.h>
@@ -58,8 +59,21 @@ static bool DrawsFocusedRow(UINT message)
     }
 }
 
+// The count as it is: that is what makes the control look whether it still needs them.
+static void UpdateScrollBars(HWND list)
+{
+    const LRESULT count = CallWindowProcW(original, list, LVM_GETITEMCOUNT, 0, 0);
+    CallWindowProcW(original, list, LVM_SETITEMCOUNT, static_cast<WPARAM>(count),
+                    LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+}
+
 static LRESULT CALLBACK InnerProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == LVM_DELETECOLUMN) {
+        const LRESULT deleted = CallWindowProcW(original, list, message, wParam, lParam);
+        UpdateScrollBars(list);
+        return deleted;
+    }
     const bool drawn = DrawsFocusedRow(message);
     if (!drawn && !CanMoveList(message)) {
         return CallWindowProcW(original, list, message, wParam, lParam);

@@ -1,6 +1,7 @@
 // ScreenTurn: turns the screen of the handheld, with all windows on it.
 #include "platform/pc/handheld/ScreenTurn.h"
 
+#include "platform/pc/common/MessageBoxes.h"
 #include "platform/pc/common/Orientation.h"
 #include "platform/pc/common/Screen.h"
 #include "platform/pc/common/SoftKeys.h"
@@ -50,11 +51,11 @@ static bool IsClass(HWND window, const wchar_t* name)
     return lstrcmpiW(own, name) == 0;
 }
 
-// Bars, and windows with a bar that do not cover the screen, find their place by themselves.
+// Bars, message boxes, and windows with a bar that do not cover the screen, find their place by themselves.
 static bool FindsItsPlace(HWND window)
 {
     return IsClass(window, handheld::menuBarClass) || IsClass(window, L"Shell_TrayWnd") ||
-           handheld::FindMenuBar(window);
+           handheld::FindMenuBar(window) || GetPropW(window, handheld::boxProperty);
 }
 
 // Hidden windows are asked for nothing but to cover the screen when they are shown again.
@@ -118,4 +119,10 @@ long TurnScreen(int orientation)
     }
     TellAll(windows);
     return DISP_CHANGE_SUCCESSFUL;
+}
+
+void StartTurned(int orientation)
+{
+    handheld::KeepOrientation(handheld::upright);
+    TurnScreen(orientation);
 }

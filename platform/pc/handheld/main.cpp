@@ -4,6 +4,7 @@
 #include "platform/pc/handheld/Cards.h"
 #include "platform/pc/handheld/Control.h"
 #include "platform/pc/handheld/Options.h"
+#include "platform/pc/handheld/ScreenTurn.h"
 #include "platform/pc/handheld/StartMenu.h"
 #include "platform/pc/handheld/Today.h"
 #include "platform/pc/handheld/TopBar.h"
@@ -105,6 +106,7 @@ static int RunShell(const Options& options)
         Say(L"Cannot read the profile " + options.profile + L"\n");
         return failed;
     }
+    StartTurned(handheld::ActiveProfile().orientation);
     MakeCards();
     FillStartMenu();
     Control control;

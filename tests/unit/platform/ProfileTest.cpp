@@ -13,6 +13,7 @@ TEST(ProfileTest, AnEmptyTextIsAPocketPc)
     EXPECT_EQ(profile.width, 240);
     EXPECT_EQ(profile.height, 320);
     EXPECT_EQ(profile.dpi, 96);
+    EXPECT_EQ(profile.orientation, 0);
     EXPECT_EQ(profile.securityTier, 0);
     EXPECT_TRUE(profile.cards.empty());
     EXPECT_EQ(profile.root, L"");
@@ -102,4 +103,14 @@ TEST(ProfileTest, AMalformedHeapScriptCountsForNothing)
             << testing::PrintToString(std::wstring(value));
     }
     EXPECT_NE(ParseProfile(L"[heap]\nmail.exe=4294967295").FindHeapScript(L"mail.exe"), nullptr);
+}
+
+TEST(ProfileTest, AnOrientationIsSomeDegreesByTheDevicesNumber)
+{
+    EXPECT_EQ(ParseProfile(L"[handheld]\norientation = 90").orientation, 1);
+    EXPECT_EQ(ParseProfile(L"[handheld]\norientation = 180").orientation, 2);
+    EXPECT_EQ(ParseProfile(L"[handheld]\norientation = 270").orientation, 4);
+    for (const wchar_t* text : {L"0", L"4", L"45", L"360", L"-90", L"left", L""}) {
+        EXPECT_EQ(ParseProfile(std::wstring(L"[handheld]\norientation = ") + text).orientation, 0) << text;
+    }
 }

@@ -7,6 +7,14 @@ display_usable()
     [[ -n ${DISPLAY:-} ]] && timeout 5 xdpyinfo >/dev/null 2>&1
 }
 
+# display_has_lines <count>: it is at least so high.
+display_has_lines()
+{
+    local lines
+    lines=$(timeout 5 xdpyinfo 2>/dev/null | sed -n 's/^ *dimensions: *[0-9]*x\([0-9]*\) pixels.*/\1/p' | head -n 1)
+    ((${lines:-0} >= $1))
+}
+
 # start_display <folder>: starts a display server on a free number and sets QV_DISPLAY and QV_DISPLAY_PID. The screen is
 # larger than any profile's in both directions, so that the handheld can be turned.
 start_display()

@@ -1,4 +1,5 @@
-// The program writes nothing unless it is told to: it opens no file but its pictures, and leaves the registry.
+// The program writes nothing unless it is told to: it opens no file but its pictures, and leaves the
+// registry.
 #include "framework/CVireoRegistry.h"
 #include "resources/ids.h"
 #include "tests/support/TestKey.h"

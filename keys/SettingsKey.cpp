@@ -24,7 +24,7 @@ static consteval SCipher Encipher(const wchar_t (&path)[enciphered + 1])
     return cipher;
 }
 
-// Volatile, or the compiler would decipher it and leave the text in the executable.
+// Volatile, or a compiler may decipher it and leave the text in the executable.
 static const volatile SCipher cipher = Encipher(L"Software\\Quorvane\\HomeKeySetting");
 
 const wchar_t* MakeSettingsKeyPath(SettingsKeyPath& path)

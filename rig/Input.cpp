@@ -42,6 +42,16 @@ void KeyUp(WORD key)
     SendKey(key, 0, KEYEVENTF_KEYUP);
 }
 
+void ExtendedKeyDown(WORD key)
+{
+    SendKey(key, 0, KEYEVENTF_EXTENDEDKEY);
+}
+
+void ExtendedKeyUp(WORD key)
+{
+    SendKey(key, 0, KEYEVENTF_EXTENDEDKEY | KEYEVENTF_KEYUP);
+}
+
 void PressKey(WORD key, int times)
 {
     for (int i = 0; i < times; i++) {

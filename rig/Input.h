@@ -10,6 +10,9 @@ namespace rig {
 
 void KeyDown(WORD key);
 void KeyUp(WORD key);
+// The keys between letters and number pad, such as Home, where KeyDown and KeyUp mean the number pad's.
+void ExtendedKeyDown(WORD key);
+void ExtendedKeyUp(WORD key);
 void PressKey(WORD key, int times = 1);
 // Pressed together, released in the reverse order.
 void PressChord(std::initializer_list<WORD> keys);

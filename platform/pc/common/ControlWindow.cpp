@@ -18,6 +18,11 @@ HWND FindControl()
     return FindWindowW(controlClass, nullptr);
 }
 
+HWND WindowOf(const KeyRequest& request)
+{
+    return reinterpret_cast<HWND>(static_cast<ULONG_PTR>(request.window));
+}
+
 DWORD AskControl(const KeyRequest& request)
 {
     COPYDATASTRUCT data = {keyRequest, sizeof request, const_cast<KeyRequest*>(&request)};

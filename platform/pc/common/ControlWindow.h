@@ -30,11 +30,19 @@ struct KeyRequest
     DWORD key;
 };
 
+// The window that it names; null for the shell.
+HWND WindowOf(const KeyRequest& request);
+
 // Asks the handheld; a system error code, ERROR_SUCCESS when it did what was asked.
 DWORD AskControl(const KeyRequest& request);
 
 // To the control window, posted: the device's lock key has been pressed.
 inline constexpr UINT WM_LOCK_KEYS = WM_APP + 1;
+// The same: a key of the handheld's own, wParam, has been pressed or, with lParam 0, released.
+inline constexpr UINT WM_HANDHELD_KEY = WM_APP + 2;
+// The same: a key of the PC's keyboard, wParam, has been pressed while the keys are locked; lParam is 1 with
+// Shift.
+inline constexpr UINT WM_KEY_WHILE_LOCKED = WM_APP + 3;
 
 // Whether a button of the handheld is held down.
 bool IsButtonHeld(int key);

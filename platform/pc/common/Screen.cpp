@@ -53,6 +53,12 @@ RECT ProgramRect()
     return rect;
 }
 
+bool HasOwnDesktop()
+{
+    const RECT screen = ScreenRect();
+    return GetSystemMetrics(SM_CXSCREEN) == screen.right && GetSystemMetrics(SM_CYSCREEN) == screen.bottom;
+}
+
 HFONT CreateScreenFont(int points, int weight)
 {
     static const bool preferred = HasFace(preferredFace);

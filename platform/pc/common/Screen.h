@@ -18,6 +18,9 @@ RECT ScreenRect();
 // What a program's main window covers: everything below the top bar.
 RECT ProgramRect();
 
+// Whether the desktop is nothing but the handheld's screen. A larger one is the user's.
+bool HasOwnDesktop();
+
 // The screen's user-interface font; the caller deletes it.
 HFONT CreateScreenFont(int points, int weight);
 

@@ -3,6 +3,7 @@
 
 #include "platform/pc/common/ControlWindow.h"
 #include "platform/pc/common/TurnRequest.h"
+#include "platform/pc/handheld/Keys.h"
 #include "platform/pc/handheld/ScreenTurn.h"
 
 static constexpr wchar_t readyProperty[] = L"Ready";
@@ -29,6 +30,10 @@ void Control::SetReady()
 
 LRESULT Control::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    LRESULT answer = 0;
+    if (keys && keys->HandleMessage(message, wParam, lParam, answer)) {
+        return answer;
+    }
     switch (message) {
     case WM_CLOSE:
         PostQuitMessage(0);

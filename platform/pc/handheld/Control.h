@@ -3,6 +3,8 @@
 
 #include "platform/pc/handheld/ShellWindow.h"
 
+class Keys;
+
 class Control final : public ShellWindow
 {
   public:
@@ -12,8 +14,12 @@ class Control final : public ShellWindow
     static bool IsReady(HWND control);
 
     bool Open();
+    // From then on its messages go to the keys, which must outlive it or be taken away with null.
+    void Serve(Keys* handheldKeys) { keys = handheldKeys; }
     void SetReady();
 
   private:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    Keys* keys = nullptr;
 };

@@ -5,7 +5,8 @@ const wchar_t optionsHelp[] = L"Usage: handheld.exe [--profile FILE] [--ready FI
                               L"  --profile FILE  be the handheld that this file describes\n"
                               L"  --ready FILE    create this file as soon as the screen stands\n"
                               L"  --wait          return as soon as a handheld is up; fail after 30 seconds\n"
-                              L"  --end           end the handheld that is up\n";
+                              L"  --end           end the handheld that is up\n"
+                              L"  --keys          list the handheld's keys\n";
 
 bool ParseOptions(const std::vector<std::wstring>& arguments, Options& options)
 {
@@ -19,6 +20,8 @@ bool ParseOptions(const std::vector<std::wstring>& arguments, Options& options)
             options.action = Options::Action::Wait;
         } else if (argument == L"--end") {
             options.action = Options::Action::End;
+        } else if (argument == L"--keys") {
+            options.action = Options::Action::ListKeys;
         } else if (argument == L"--help") {
             options.action = Options::Action::Help;
         } else {

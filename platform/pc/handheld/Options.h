@@ -11,6 +11,7 @@ struct Options
         Run,
         Wait, // until a handheld is up
         End,  // the handheld that is up
+        ListKeys,
         Help
     };
 

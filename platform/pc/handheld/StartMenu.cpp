@@ -8,6 +8,7 @@
 #include "platform/pc/common/SpecialFolder.h"
 #include "platform/pc/common/StartFile.h"
 #include "platform/pc/common/StartMenuTree.h"
+#include "platform/pc/handheld/Front.h"
 #include "platform/pc/handheld/OwnFolder.h"
 
 #include <shlobj.h>
@@ -42,29 +43,6 @@ static HMENU MakeMenu(const handheld::StartMenuTree& tree, Commands& commands)
         AppendMenuW(menu, MF_GRAYED, 0, L"No programs");
     }
     return menu;
-}
-
-static bool CanBeInFront(HWND window)
-{
-    return IsWindowVisible(window) && IsWindowEnabled(window) &&
-           (GetWindowLongPtrW(window, GWL_EXSTYLE) & (WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW)) == 0;
-}
-
-// The window that was in front may have gone meanwhile: the next one below it then. The home screen is always
-// there. With a window that goes the front may go, too.
-static void GiveFrontBack(HWND owner, HWND previous)
-{
-    const HWND front = GetForegroundWindow();
-    if (front && front != owner && CanBeInFront(front)) {
-        return;
-    }
-    if (!previous || !CanBeInFront(previous)) {
-        previous = GetTopWindow(nullptr);
-        while (previous && !CanBeInFront(previous)) {
-            previous = GetWindow(previous, GW_HWNDNEXT);
-        }
-    }
-    SetForegroundWindow(previous);
 }
 
 static void Start(const std::wstring& shortcut)

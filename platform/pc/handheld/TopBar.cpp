@@ -128,12 +128,9 @@ std::wstring TopBar::TitleOfForeground() const
 // on a desktop that is larger than the handheld, for it is the user's.
 void TopBar::MakeRoom(HWND front) const
 {
-    const RECT screen = handheld::ScreenRect();
     const RECT area = handheld::ProgramRect();
-    const bool ownDesktop =
-        GetSystemMetrics(SM_CXSCREEN) == screen.right && GetSystemMetrics(SM_CYSCREEN) == screen.bottom;
     RECT rect;
-    if (!ownDesktop || !front || front == Window() || front == GetDesktopWindow() ||
+    if (!handheld::HasOwnDesktop() || !front || front == Window() || front == GetDesktopWindow() ||
         !GetWindowRect(front, &rect)) {
         return;
     }

@@ -3,6 +3,7 @@
 #include "platform/pc/common/ActiveProfile.h"
 #include "platform/pc/handheld/Cards.h"
 #include "platform/pc/handheld/Control.h"
+#include "platform/pc/handheld/Keys.h"
 #include "platform/pc/handheld/Options.h"
 #include "platform/pc/handheld/ScreenTurn.h"
 #include "platform/pc/handheld/StartMenu.h"
@@ -109,6 +110,7 @@ static int RunShell(const Options& options)
     StartTurned(handheld::ActiveProfile().orientation);
     MakeCards();
     FillStartMenu();
+    FillButtons();
     Control control;
     Today today;
     if (!control.Open() || !today.Open()) {
@@ -117,6 +119,11 @@ static int RunShell(const Options& options)
     TopBar topBar(today.Window());
     if (!topBar.Open()) {
         return failed;
+    }
+    Keys keys(control.Window(), today.Window());
+    control.Serve(&keys);
+    if (!keys.Start()) {
+        Say(L"The system does not let the handheld see its keys.\n");
     }
     SetForegroundWindow(today.Window());
     control.SetReady();
@@ -129,6 +136,7 @@ static int RunShell(const Options& options)
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
+    control.Serve(nullptr);
     return 0;
 }
 
@@ -144,6 +152,9 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
         return WaitUntilReady();
     case Options::Action::End:
         return EndRunning();
+    case Options::Action::ListKeys:
+        Say(KeyListText());
+        return 0;
     case Options::Action::Help:
         Say(optionsHelp);
         return 0;

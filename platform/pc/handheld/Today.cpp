@@ -56,7 +56,7 @@ Today::Today()
     const handheld::Profile& profile = handheld::ActiveProfile();
     lines = {{L"Owner", OwnerName(), RGB(244, 180, 60)},
              {profile.IsSmartphone() ? L"Smartphone" : L"Pocket PC", ScreenSize(), RGB(110, 190, 90)},
-             {L"Soft keys", L"F1 is the left one, F2 the right one", RGB(214, 96, 80)}};
+             {L"Keys", L"F1 and F2: soft keys, F12: all keys", RGB(214, 96, 80)}};
 }
 
 Today::~Today()

@@ -4,6 +4,8 @@
 #include "dialogs/CDialogSelectApp.h"
 #include "keys/KeyActions.h"
 
+static constexpr int openLines = 9; // as many fit on a screen that lies on its side
+
 void CActionChoice::Fill(HWND dropDown, uint32_t count)
 {
     list = dropDown;
@@ -12,6 +14,19 @@ void CActionChoice::Fill(HWND dropDown, uint32_t count)
     }
     actionCount = static_cast<int32_t>(count);
     Select(KeyActionLeave);
+    MakeRoomForLines();
+}
+
+// The template has room for a line or two. The height that is set is that with the list open; closed, the
+// control keeps its own.
+void CActionChoice::MakeRoomForLines()
+{
+    RECT rect = {};
+    GetWindowRect(list, &rect);
+    const auto lineHeight = static_cast<int>(SendMessageW(list, CB_GETITEMHEIGHT, 0, 0));
+    const int height = rect.bottom - rect.top + openLines * lineHeight;
+    SetWindowPos(list, nullptr, 0, 0, rect.right - rect.left, height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CActionChoice::Show(int32_t action, const CStr& application)

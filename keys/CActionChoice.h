@@ -28,6 +28,7 @@ class CActionChoice
     void Select(int32_t item);
 
   private:
+    void MakeRoomForLines();
     void RemoveName();
     void AddName(const CStr& application);
 };

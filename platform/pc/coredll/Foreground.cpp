@@ -110,6 +110,26 @@ static HWND WindowToActivate(const WindowStack& stack, HWND window)
     return window;
 }
 
+static constexpr wchar_t keptAbove[] = L"QuorvaneKeptAbove"; // a window's property
+
+void KeepAbove(HWND window)
+{
+    SetPropW(window, keptAbove, reinterpret_cast<HANDLE>(UINT_PTR{1}));
+}
+
+// Those of this program, in the order that they have among themselves.
+static void RaiseKeptWindows()
+{
+    const WindowStack stack;
+    for (int i = stack.count - 1; i >= 0; --i) {
+        const HWND window = stack.windows[i];
+        if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId() &&
+            GetPropW(window, keptAbove) != nullptr) {
+            SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, keepPlace);
+        }
+    }
+}
+
 BOOL BringToForeground(HWND window)
 {
     if (!IsWindow(window)) {
@@ -184,6 +204,9 @@ extern "C" BOOL WINAPI ce_ShowWindow(HWND window, int command)
     // A minimised window is still visible here, so showing it again would do nothing.
     if (wasVisible && activates && GetForegroundWindow() != window) {
         BringToForeground(window);
+    }
+    if (activates) {
+        RaiseKeptWindows();
     }
     return wasVisible;
 }

@@ -7,6 +7,9 @@
 // refuses.
 BOOL BringToForeground(HWND window);
 
+// The window is to be in front of what its program shows in front later.
+void KeepAbove(HWND window);
+
 // Minimises: the window goes behind all others and the next one becomes active. Returns whether it was
 // visible.
 BOOL SendToBackground(HWND window);

@@ -1,5 +1,6 @@
 // Creating windows as the device's window manager does.
 #include "platform/pc/common/Screen.h"
+#include "platform/pc/coredll/Foreground.h"
 #include "platform/pc/coredll/ListViewFix.h"
 #include "platform/pc/coredll/SystemFont.h"
 
@@ -53,9 +54,14 @@ extern "C" BOOL WINAPI ce_IsWindow(HWND window)
 }
 
 // A device's screen shows one program at a time, so what is to be above everything else only has to be in
-// front. Wine 8.0 raises no other window on the screen while there is a top-most one.
+// front, and to come there again when its program shows another window. Wine 8.0 raises no other window on
+// the screen while there is a top-most one.
 extern "C" BOOL WINAPI ce_SetWindowPos(HWND window, HWND after, int x, int y, int width, int height,
                                        UINT flags)
 {
-    return SetWindowPos(window, after == HWND_TOPMOST ? HWND_TOP : after, x, y, width, height, flags);
+    if (after == HWND_TOPMOST) {
+        KeepAbove(window);
+        after = HWND_TOP;
+    }
+    return SetWindowPos(window, after, x, y, width, height, flags);
 }

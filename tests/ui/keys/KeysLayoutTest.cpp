@@ -103,18 +103,21 @@ TEST_F(KeysLayoutTest, InTooLittleRoomTheListGivesWay)
     });
 }
 
-TEST_F(KeysLayoutTest, AnOpenListKeepsItsHeight)
+TEST_F(KeysLayoutTest, AnOpenListShowsSevenActionsWhateverTheDialogsSize)
 {
     OpenKeys([](Opened& opened) {
-        const auto opens = [&] {
-            RECT rect = {};
-            SendMessageW(Control(opened, holdList), CB_GETDROPPEDCONTROLRECT, 0,
-                         reinterpret_cast<LPARAM>(&rect));
-            return rect.bottom - rect.top;
-        };
-        const LONG height = opens();
-        EXPECT_GT(height, Place(opened, holdList).bottom - Place(opened, holdList).top);
-        MoveWindow(opened.dialog, 0, 26, Scaled(320), Scaled(188), TRUE);
-        EXPECT_EQ(opens(), height);
+        const RECT before = Place(opened, pressList);
+        for (const SIZE& size : {SIZE{320, 188}, SIZE{240, 268}}) {
+            MoveWindow(opened.dialog, 0, 26, Scaled(size.cx), Scaled(size.cy), TRUE);
+            for (const int list : {pressList, holdList}) {
+                RECT open = {};
+                SendMessageW(Control(opened, list), CB_GETDROPPEDCONTROLRECT, 0,
+                             reinterpret_cast<LPARAM>(&open));
+                const LRESULT line = SendMessageW(Control(opened, list), CB_GETITEMHEIGHT, 0, 0);
+                const RECT closed = Place(opened, list);
+                EXPECT_GE(open.bottom - open.top - (closed.bottom - closed.top), 7 * line);
+                EXPECT_EQ(closed.bottom - closed.top, before.bottom - before.top);
+            }
+        }
     });
 }

@@ -179,3 +179,20 @@ TEST_F(ForegroundTest, TheLowestBitOfTheHandleDoesNotMatter)
     DestroyWindow(other);
     DestroyWindow(window);
 }
+
+// As a notice is that tells of a dialog which is shown only then.
+TEST_F(ForegroundTest, WhatIsToBeAboveEverythingStaysAboveAWindowThatIsShownLater)
+{
+    const HWND notice = MakeWindow();
+    const HWND plain = MakeWindow();
+    SetWindowPos(notice, HWND_TOPMOST, 10, 60, 50, 50, SWP_SHOWWINDOW | SWP_NOACTIVATE);
+    EXPECT_EQ(GetWindowLongPtrW(notice, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    const HWND later =
+        CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 10, 60, 100, 80, nullptr, nullptr, nullptr, nullptr);
+    ShowWindow(later, SW_SHOW);
+    EXPECT_EQ(FrontOf({notice, plain, later}), notice);
+    EXPECT_EQ(FrontOf({plain, later}), later);
+    for (HWND window : {notice, plain, later}) {
+        DestroyWindow(window);
+    }
+}

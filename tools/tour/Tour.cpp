@@ -54,6 +54,7 @@ void Tour::Run()
     ShowStart();
     ShowStartButton();
     ShowProcs();
+    ShowTurned();
     ShowKeys();
     program.Command(CMD_EXIT);
     Require(program.ExitCode(patience) == 0u,

@@ -52,6 +52,9 @@ class Tour
     void ShowProcs();
     void ShowKeys();
     void ShowEnding();
+    // The pages, a menu and a report on the turned screen.
+    void ShowTurned();
+    void Turn(int orientation);
 
     // A row of the processes by the name of its executable.
     void SelectProcess(const wchar_t* name);

@@ -74,24 +74,56 @@ static void Turn(HWND window, const handheld::ScreenChange& change)
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_ASYNCWINDOWPOS);
 }
 
+namespace {
+
+struct Turned
+{
+    std::vector<HWND> windows;
+    HWND front;
+};
+
+} // namespace
+
+static bool IsOwn(HWND window)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process == GetCurrentProcessId();
+}
+
+// Now and then the change of the desktop's size puts the home screen before all others in Wine 8.0's order,
+// mostly though not in front of the keyboard.
+static void RaiseAgain(HWND front)
+{
+    const HWND now = GetForegroundWindow();
+    if (!IsWindow(front) || (now != front && !IsOwn(now))) {
+        return;
+    }
+    SetWindowPos(front, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
+    if (now != front) {
+        SetForegroundWindow(front);
+    }
+}
+
 static DWORD WINAPI Tell(void* parameter)
 {
-    const std::unique_ptr<std::vector<HWND>> windows(static_cast<std::vector<HWND>*>(parameter));
-    for (HWND window : *windows) {
+    const std::unique_ptr<Turned> turned(static_cast<Turned*>(parameter));
+    for (HWND window : turned->windows) {
         DWORD_PTR ignored = 0;
         SendMessageTimeoutW(window, WM_SETTINGCHANGE, screenReset, 0, SMTO_ABORTIFHUNG, longestAnswer,
                             &ignored);
     }
+    RaiseAgain(turned->front);
     return 0;
 }
 
 // After they have been placed. The message cannot be sent without waiting, so a thread of its own waits: the
 // shell must not stand still because a program does.
-static void TellAll(const std::vector<HWND>& windows)
+static void TellAll(const std::vector<HWND>& windows, HWND front)
 {
-    auto copy = std::make_unique<std::vector<HWND>>(windows);
-    if (const HANDLE thread = CreateThread(nullptr, 0, Tell, copy.get(), 0, nullptr)) {
-        copy.release();
+    auto turned = std::make_unique<Turned>(Turned{windows, front});
+    if (const HANDLE thread = CreateThread(nullptr, 0, Tell, turned.get(), 0, nullptr)) {
+        turned.release();
         CloseHandle(thread);
     }
 }
@@ -101,6 +133,7 @@ long TurnScreen(int orientation)
     const RECT screen = handheld::ScreenRect();
     const RECT area = handheld::ProgramRect();
     const int before = handheld::ScreenOrientation();
+    const HWND front = GetForegroundWindow();
     if (orientation == before) {
         return DISP_CHANGE_SUCCESSFUL;
     }
@@ -117,7 +150,7 @@ long TurnScreen(int orientation)
     for (HWND window : windows) {
         Turn(window, change);
     }
-    TellAll(windows);
+    TellAll(windows, front);
     return DISP_CHANGE_SUCCESSFUL;
 }
 

@@ -75,7 +75,10 @@ TEST_F(TurnedPagesTest, TheTurnedScreenIsUsable)
 {
     TurnSideways();
     ExpectLaidOut(TasksPage);
-    Tap(SoftKeyPoint(BarOf(main), 1));
+    const POINT key = SoftKeyPoint(BarOf(main), 1);
+    ASSERT_TRUE(WaitFor([&] { return WindowFromPoint(key) == BarOf(main); }))
+        << "something covers the soft key";
+    Tap(key);
     ASSERT_TRUE(WaitFor([] { return OpenMenu(); }));
     const RECT menu = ScreenRectOf(OpenMenu());
     EXPECT_EQ(menu.right, ScreenRect().right);

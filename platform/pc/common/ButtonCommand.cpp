@@ -32,8 +32,7 @@ std::wstring ButtonCommand(int button)
     std::wstring text;
     DWORD type = 0;
     DWORD size = 0;
-    if (RegQueryValueExW(key, L"Default", nullptr, &type, nullptr, &size) == ERROR_SUCCESS &&
-        type == REG_SZ) {
+    if (RegQueryValueExW(key, L"Default", nullptr, nullptr, nullptr, &size) == ERROR_SUCCESS) {
         text.resize(size / sizeof(wchar_t) + 1);
         size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
         const LONG result =

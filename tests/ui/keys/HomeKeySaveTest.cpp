@@ -123,15 +123,23 @@ TEST_F(HomeKeySaveTest, WhatCannotBeSavedIsToldAndNotLost)
         settings.refused = true;
         Run(opened, IDOK);
         EXPECT_EQ(Notice(opened.app), L"Registry error: Can't open key");
-        bool read = false;
-        opened.app.Later([&] { read = true; });
-        EXPECT_TRUE(PumpUntil([&] { return read; }));
         EXPECT_TRUE(IsWindow(opened.dialog));
         EXPECT_EQ(homeKey.command, 0u);
         EXPECT_EQ(claims.calls, Calls());
         settings.refused = false;
     });
     EXPECT_EQ(settings.Command(), 8);
+}
+
+TEST_F(HomeKeySaveTest, ADialogThatCannotSaveIsClosedByCancellingOnly)
+{
+    EXPECT_EQ(OpenHomeKey([&](Opened& opened) {
+                  Choose(opened, homeList, 8);
+                  settings.refused = true;
+                  Run(opened, IDOK);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(homeKey.command, 0u);
 }
 
 TEST_F(HomeKeySaveTest, AShellThatKeepsItsKeyIsFatal)

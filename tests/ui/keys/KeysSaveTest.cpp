@@ -72,9 +72,6 @@ TEST_F(KeysSaveTest, WhatCannotBeSavedIsToldAndNotLost)
             buttons.refused = {key};
             Run(opened, IDOK);
             EXPECT_EQ(Notice(opened.app), notice);
-            bool read = false;
-            opened.app.Later([&] { read = true; });
-            EXPECT_TRUE(PumpUntil([&] { return read; }));
             EXPECT_TRUE(IsWindow(opened.dialog));
             EXPECT_EQ(Shown(opened, pressList), L"Close all");
             EXPECT_TRUE(buttons.writes.empty());
@@ -84,4 +81,20 @@ TEST_F(KeysSaveTest, WhatCannotBeSavedIsToldAndNotLost)
     });
     EXPECT_EQ(result, IDOK);
     EXPECT_TRUE(RunsNow(L"40C1", L"\" 193 8*7"));
+}
+
+TEST_F(KeysSaveTest, ADialogThatCannotSaveIsClosedByCancellingOnly)
+{
+    for (const wchar_t* key : {L"", L"40C1"}) {
+        for (const UINT command : {1u, 6u}) {
+            buttons.refused.clear();
+            const int result = OpenKeys([&](Opened& opened) {
+                Choose(opened, pressList, 8);
+                buttons.refused = {key};
+                Run(opened, command);
+            });
+            EXPECT_EQ(result, IDCANCEL);
+        }
+    }
+    EXPECT_TRUE(buttons.writes.empty());
 }

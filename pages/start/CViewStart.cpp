@@ -64,7 +64,10 @@ void CViewStart::FillContents(int row)
 {
     CListPage::FillContents(row);
     list.SelectRow(shown.Count() > 0 ? 0 : -1);
-    SetFocus(list.Window());
+    // The list passes the focus on to the search box: where that has it, its caret is left alone.
+    if (GetFocus() != search.Window()) {
+        SetFocus(list.Window());
+    }
 }
 
 void CViewStart::Refresh()

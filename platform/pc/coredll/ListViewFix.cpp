@@ -1,9 +1,10 @@
 // Corrects the repainting of a virtual list view: Wine 8.0 scrolls and paints before it moves the selection
 // mark, and it leaves the two leftmost pixel columns out. A list whose rows are drawn by the mark would show
 // several selected rows. And where the focus comes or goes it asks for the focused row as one that is not
-// selected, at the wrong place and straight on the screen. Scroll bars that a larger list does not need go
-// only when the next column is made, which is then too narrow.
+// selected, at the wrong place and straight on the screen.
 #include "platform/pc/coredll/ListViewFix.h"
+
+#include "platform/pc/coredll/ListViewColumn.h"
 
 #include <commctrl.h>
 
@@ -59,20 +60,11 @@ static bool DrawsFocusedRow(UINT message)
     }
 }
 
-// The count as it is: that is what makes the control look whether it still needs them.
-static void UpdateScrollBars(HWND list)
-{
-    const LRESULT count = CallWindowProcW(original, list, LVM_GETITEMCOUNT, 0, 0);
-    CallWindowProcW(original, list, LVM_SETITEMCOUNT, static_cast<WPARAM>(count),
-                    LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
-}
-
 static LRESULT CALLBACK InnerProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (message == LVM_DELETECOLUMN) {
-        const LRESULT deleted = CallWindowProcW(original, list, message, wParam, lParam);
-        UpdateScrollBars(list);
-        return deleted;
+    LRESULT remade = 0;
+    if (RemakesColumn(list, original, message, wParam, lParam, remade)) {
+        return remade;
     }
     const bool drawn = DrawsFocusedRow(message);
     if (!drawn && !CanMoveList(message)) {

@@ -47,3 +47,34 @@ TEST_F(HardwareKeysCommandTest, AHandheldOfAnotherKindHasThePocketPcs)
         Command(app, [](Opened& opened) { EXPECT_TRUE(IsPocketPcs(opened)); });
     });
 }
+
+TEST_F(HardwareKeysCommandTest, ItsTemplateItsSoftKeysAndItsKeyAreItsOwn)
+{
+    InProgram([](ProgramApp& app) {
+        std::vector<UINT> templates;
+        std::vector<UINT> bars;
+        std::vector<UINT> tables;
+        const auto number = [](const wchar_t* name) {
+            return static_cast<UINT>(reinterpret_cast<UINT_PTR>(name));
+        };
+        const SPY(FindResourceW) find([&](HMODULE module, const wchar_t* name, const wchar_t* type) {
+            if (type == RT_DIALOG) {
+                templates.push_back(number(name));
+            }
+            return find.Real(module, name, type);
+        });
+        const SPY(SHCreateMenuBar) create([&](SHMENUBARINFO* info) {
+            bars.push_back(info->nToolBarId);
+            return create.Real(info);
+        });
+        const SPY(LoadAcceleratorsW) load([&](HINSTANCE instance, const wchar_t* name) {
+            tables.push_back(number(name));
+            return load.Real(instance, name);
+        });
+        Command(app, [](Opened&) {});
+        const bool isSmartphone = app.PlatformKind() == Platform::Smartphone;
+        EXPECT_EQ(templates, std::vector<UINT>{isSmartphone ? 144u : 142u});
+        EXPECT_EQ(bars, std::vector<UINT>{169});
+        EXPECT_EQ(tables, std::vector<UINT>{143});
+    });
+}

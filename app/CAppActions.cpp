@@ -61,13 +61,19 @@ void CApp::ShowPageByKey(int32_t id)
     BringToFront(mainWindow);
 }
 
-void CApp::CloseCurrent()
+// The application in front, by its topmost window; null when none is.
+static HWND ApplicationInFront()
 {
     HWND foreground = GetForegroundWindow();
-    if (foreground == nullptr) {
+    return foreground != nullptr ? TopOwner(foreground) : nullptr;
+}
+
+void CApp::CloseCurrent()
+{
+    HWND current = ApplicationInFront();
+    if (current == nullptr) {
         return;
     }
-    HWND current = TopOwner(foreground);
     CStr className;
     WindowClass(current, className);
     if (current == mainWindow || IsProtectedClass(className)) {
@@ -79,7 +85,6 @@ void CApp::CloseCurrent()
 
 void CApp::CloseOthers()
 {
-    HWND foreground = GetForegroundWindow();
-    CloseAll(foreground != nullptr ? TopOwner(foreground) : nullptr);
+    CloseAll(ApplicationInFront());
     ShowNotice(L"Done");
 }

@@ -32,7 +32,7 @@ void CActionChoice::MakeRoomForLines()
 void CActionChoice::Show(int32_t action, const CStr& application)
 {
     // A number behind the actions may be the position of the name, which is not meant.
-    Select(action < actionCount ? action : -1);
+    Select(action >= 0 && action < actionCount ? action : -1);
     if (action != KeyActionStart) {
         return;
     }

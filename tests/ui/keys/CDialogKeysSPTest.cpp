@@ -92,6 +92,18 @@ TEST_F(CDialogKeysSPTest, CommandsThatAreNotForASmartphoneAreRefusedInWords)
     }
 }
 
+TEST_F(CDialogKeysSPTest, ACommandThatIsNotListedSelectsNothing)
+{
+    for (const uint32_t command : {13u, 14u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFAu, 0xFFFFFFFFu}) {
+        Bind(command);
+        OpenHomeKey([&](Opened& opened) {
+            EXPECT_EQ(Selected(opened, homeList), -1) << command;
+            Choose(opened, homeList, 4);
+            EXPECT_EQ(Shown(opened, homeList), L"Process viewer") << command;
+        });
+    }
+}
+
 TEST_F(CDialogKeysSPTest, AfterThePickerTheDialogHasItsPlaceAndTheKeyboard)
 {
     for (const UINT answer : {IDOK, IDCANCEL}) {

@@ -69,6 +69,8 @@ static bool FillButton(int index)
         SetText(key, L"ResetCmd", command);
         SetNumber(key, L"Flags", 0);
         SetNumber(key, L"ResetFlags", 0);
+        SetNumber(key, L"BtnWnd", 0);
+        SetText(key, L"WndCls", {});
     }
     RegCloseKey(key);
     return true;

@@ -27,6 +27,9 @@ TEST_F(FirstButtonsTest, FourButtonsHaveNamesAndFlags)
         EXPECT_EQ(machine.Text(buttons[i], L"Name"), L"Button " + std::to_wstring(i + 1));
         EXPECT_EQ(machine.Number(buttons[i], L"Flags"), 0);
         EXPECT_EQ(machine.Number(buttons[i], L"ResetFlags"), 0);
+        // A program that takes a button clears these, and leaves them so when it gives the button back.
+        EXPECT_EQ(machine.Number(buttons[i], L"BtnWnd"), 0);
+        EXPECT_EQ(machine.Text(buttons[i], L"WndCls"), L"");
     }
     EXPECT_EQ(machine.Text(std::wstring(keys) + L"40C5", L"Name"), L"no text");
 }

@@ -12,11 +12,12 @@ static bool IsShift(DWORD code)
 KeyEvent KeyFilter::Press(const PcKey& key, bool isLocked)
 {
     const DWORD code = key.code & 0xFF;
-    if (swallowed[code]) {
+    if (swallowed[code] || (isLocked && passed[code] && !IsShift(code))) {
         return {KeyEvent::Kind::None, 0, true}; // a repeat
     }
     const int own = HandheldKeyOf(key, isSmartphone);
     if (isLocked ? IsShift(code) : own == 0) {
+        passed[code] = true;
         return {};
     }
     swallowed[code] = true;
@@ -30,6 +31,7 @@ KeyEvent KeyFilter::Press(const PcKey& key, bool isLocked)
 KeyEvent KeyFilter::Release(const PcKey& key)
 {
     const DWORD code = key.code & 0xFF;
+    passed[code] = false;
     if (!swallowed[code]) {
         return {};
     }

@@ -33,6 +33,7 @@ class KeyFilter
   private:
     bool isSmartphone;
     std::bitset<256> swallowed; // the PC's keys that are down without a program's knowing
+    std::bitset<256> passed;    // those that a program knows of, and must hear the release of
     int held[256] = {};         // the keys of the handheld that they press; 0 for none
 };
 

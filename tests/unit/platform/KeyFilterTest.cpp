@@ -101,6 +101,15 @@ TEST_F(KeyFilterTest, WhatWasDownBeforeTheLockIsReleased)
     EXPECT_EQ(Up(VK_F5), (KeyEvent{Kind::Released, 0xC1, true}));
 }
 
+TEST_F(KeyFilterTest, AKeyThatRepeatsIntoTheLockIsNoKeyOfTheLock)
+{
+    Down('A');
+    EXPECT_EQ(Down('A', true), swallowed);
+    EXPECT_EQ(Up('A'), passed) << "its program knows that it is down";
+    EXPECT_EQ(Down('A', true), (KeyEvent{Kind::WhileLocked, 'A', true}));
+    EXPECT_EQ(Up('A'), swallowed);
+}
+
 TEST_F(KeyFilterTest, TheKeyThatUnlocksIsReleasedUnseen)
 {
     Down(VK_RETURN, true);

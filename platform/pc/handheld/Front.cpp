@@ -23,3 +23,15 @@ void GiveFrontBack(HWND owner, HWND previous)
     }
     SetForegroundWindow(previous);
 }
+
+// Wine's menus outlive that another program comes to the front. Asynchronous: the menu's program may hang.
+bool EndMenuInFront()
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof info;
+    if (!GetGUIThreadInfo(0, &info) || (info.flags & GUI_INMENUMODE) == 0) {
+        return false;
+    }
+    PostMessageW(info.hwndMenuOwner, WM_CANCELMODE, 0, 0);
+    return GetWindowThreadProcessId(info.hwndMenuOwner, nullptr) == GetCurrentThreadId();
+}

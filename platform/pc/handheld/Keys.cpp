@@ -4,6 +4,7 @@
 #include "platform/pc/common/ButtonCommand.h"
 #include "platform/pc/common/FirstButtons.h"
 #include "platform/pc/common/StartFile.h"
+#include "platform/pc/handheld/Front.h"
 
 using handheld::homeKey;
 
@@ -34,8 +35,8 @@ void FillButtons()
     handheld::FillButtonsOnce(filledButtonsKey);
 }
 
-Keys::Keys(HWND control, HWND homeScreen)
-    : today(homeScreen), claims(KeysOfTheShell()), hook(control),
+Keys::Keys(HWND controlWindow, HWND homeScreen)
+    : control(controlWindow), today(homeScreen), claims(KeysOfTheShell()), hook(controlWindow),
       lockScreen([this] { hook.SetLocked(false); })
 {}
 
@@ -72,7 +73,10 @@ bool Keys::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& re
 
 void Keys::Press(int key)
 {
-    if (key == handheld::listKey) {
+    const bool hadMenu = EndMenuInFront();
+    if (key == handheld::listKey && hadMenu) {
+        PostMessageW(control, handheld::WM_HANDHELD_KEY, static_cast<WPARAM>(key), TRUE); // behind the menu
+    } else if (key == handheld::listKey) {
         keyList.Toggle();
     } else if (claims.Press(static_cast<UINT>(key))) {
         return;
@@ -92,5 +96,6 @@ void Keys::Release(int key)
 
 void Keys::Lock()
 {
+    EndMenuInFront();
     hook.SetLocked(lockScreen.Open());
 }

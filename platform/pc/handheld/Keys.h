@@ -9,7 +9,7 @@
 class Keys
 {
   public:
-    Keys(HWND control, HWND homeScreen);
+    Keys(HWND controlWindow, HWND homeScreen);
 
     // False when the system refuses.
     bool Start();
@@ -22,6 +22,7 @@ class Keys
     void Release(int key);
     void Lock();
 
+    HWND control;
     HWND today;
     handheld::HotKeyTable claims;
     KeyHook hook;

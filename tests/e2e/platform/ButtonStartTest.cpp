@@ -44,3 +44,37 @@ TEST_F(ButtonStartTest, TheProgramInFrontKeepsItsPlaceAndTheKeys)
         ExpectEnd();
     }
 }
+
+TEST_F(ButtonStartTest, TheProgramInFrontIsTheOneThatIsClosed)
+{
+    const Actor actor;
+    const HWND other = actor.Make({.title = L"Other", .closing = actor::Closing::Ignore});
+    for (int round = 0; round < rounds; round++) {
+        const HWND front = actor.Make({.title = L"In front"});
+        ASSERT_TRUE(Raise(front));
+        Launch(L"193 7*0");
+        ASSERT_TRUE(main);
+        EXPECT_TRUE(WaitFor([=] { return !IsWindow(front); })) << round;
+        EXPECT_EQ(CloseCount(other), 0) << round;
+        PostMessageW(main, WM_CLOSE, 0, 0);
+        ExpectEnd();
+    }
+}
+
+TEST_F(ButtonStartTest, TheProgramInFrontIsTheOneThatIsSpared)
+{
+    const Actor actor;
+    const HWND front = actor.Make({.title = L"In front"});
+    for (int round = 0; round < rounds; round++) {
+        const HWND other = actor.Make({.title = L"Other"});
+        ASSERT_TRUE(Raise(front));
+        Launch(L"193 9*0");
+        ASSERT_TRUE(main);
+        EXPECT_TRUE(WaitFor([=] { return !IsWindow(other); })) << round;
+        EXPECT_TRUE(WaitFor([&] { return program->Notice(); })) << round;
+        EXPECT_EQ(CloseCount(front), 0) << round;
+        ASSERT_TRUE(IsWindow(front)) << round;
+        PostMessageW(main, WM_CLOSE, 0, 0);
+        ExpectEnd();
+    }
+}

@@ -1,6 +1,7 @@
 // The soft keys that each dialog asks the shell for.
 // profiles: pocketpc smartphone
 #include "dialogs/CDialogInfo.h"
+#include "dialogs/CDialogSelectApp.h"
 #include "resources/ids.h"
 #include "tests/ui/ProgramTest.h"
 
@@ -80,4 +81,13 @@ TEST_F(DialogBarsTest, TheWindowsListHasItsOwnAndTheReportAboveItToo)
         SendMessageW(app.MainWindow(), WM_COMMAND, CMD_WINDOWS_LIST, 0);
     };
     EXPECT_EQ(BarsOf(windows, {32802, 1, 1}), (std::vector<UINT>{173, 170}));
+}
+
+TEST_F(DialogBarsTest, ThePickerHasItsOwn)
+{
+    const auto pick = [](ProgramApp& app) {
+        CStr path;
+        CDialogSelectApp::Pick(app.startPrograms, path);
+    };
+    EXPECT_EQ(BarsOf(pick, {2}), (std::vector<UINT>{177}));
 }

@@ -131,6 +131,18 @@ TEST_F(CDialogSelectAppTest, OtherKeysAreAsTheListHasThem)
     });
 }
 
+TEST_F(CDialogSelectAppTest, ALetterFindsNoRow)
+{
+    AddPrograms({L"a", L"b", L"c"});
+    Open([](Opened& opened) {
+        EXPECT_EQ(Notify(opened, static_cast<UINT>(LVN_ODFINDITEMW)), -1);
+        Select(opened, 2);
+        SendMessageW(opened.list, WM_CHAR, L'b', 1);
+        EXPECT_EQ(Mark(opened.list), 2);
+        EXPECT_EQ(RowsInState(opened.list, LVIS_SELECTED), std::vector<int>{2});
+    });
+}
+
 TEST_F(CDialogSelectAppTest, TheContextMenuIsSwallowed)
 {
     AddPrograms({L"a"});

@@ -93,6 +93,7 @@ TEST_F(HomeKeySaveTest, TheFirstBindingCapturesTheKey)
 {
     Rebind(0, 3);
     EXPECT_EQ(bound, captured);
+    EXPECT_EQ(homeKey.command, 3u);
 }
 
 // Which leaves the key with nothing to do; that is accepted.

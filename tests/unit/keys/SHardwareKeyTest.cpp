@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
+#include <type_traits>
 
 static const wchar_t* programPath;
 
@@ -49,6 +51,22 @@ class SHardwareKeyTest : public testing::Test
         return line.Buffer();
     }
 };
+
+TEST_F(SHardwareKeyTest, ItsFieldsHaveTheirOrder)
+{
+    EXPECT_EQ(offsetof(SHardwareKey, key), 0u);
+    EXPECT_EQ(offsetof(SHardwareKey, name), sizeof(CStr));
+    EXPECT_EQ(offsetof(SHardwareKey, command), 2 * sizeof(CStr));
+    EXPECT_EQ(offsetof(SHardwareKey, vk), 3 * sizeof(CStr));
+    EXPECT_EQ(offsetof(SHardwareKey, pressAction), offsetof(SHardwareKey, vk) + 4);
+    EXPECT_EQ(offsetof(SHardwareKey, holdAction), offsetof(SHardwareKey, vk) + 8);
+    EXPECT_GT(offsetof(SHardwareKey, pressApplication), offsetof(SHardwareKey, holdAction));
+    EXPECT_EQ(offsetof(SHardwareKey, holdApplication),
+              offsetof(SHardwareKey, pressApplication) + sizeof(CStr));
+    EXPECT_TRUE((std::is_same_v<decltype(SHardwareKey::vk), int32_t>)) << "signed";
+    EXPECT_TRUE((std::is_same_v<decltype(SHardwareKey::pressAction), int32_t>));
+    EXPECT_TRUE((std::is_same_v<decltype(SHardwareKey::holdAction), int32_t>));
+}
 
 TEST_F(SHardwareKeyTest, AButtonWithoutACommandHasItsKeysNameAndItsCode)
 {

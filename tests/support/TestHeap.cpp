@@ -9,12 +9,18 @@
 #include <new>
 
 static std::atomic<size_t> liveBlocks;
+static std::atomic<size_t> blocksEver;
 static std::atomic<int64_t> successesLeft{INT64_MAX};
 static std::atomic<bool> refused;
 
 size_t LiveBlocks()
 {
     return liveBlocks;
+}
+
+size_t BlocksEver()
+{
+    return blocksEver;
 }
 
 AllocationFailure::AllocationFailure(uint32_t successes)
@@ -49,6 +55,7 @@ static void* Allocate(size_t size)
 #endif
     if (block) {
         liveBlocks++;
+        blocksEver++;
     }
     return block;
 }

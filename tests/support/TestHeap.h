@@ -10,6 +10,7 @@
 // counted. Blocks of malloc, LocalAlloc and the substitute DLLs are none of these: the program itself
 // allocates by operator new, except for the images' data.
 size_t LiveBlocks();
+size_t BlocksEver();           // those that were given back since, too
 size_t BlockSize(void* block); // bytes, as asked for
 
 // While it lives, operator new returns null after so many more successes. Only code that is compiled to

@@ -13,10 +13,12 @@ static char* volatile block;
 TEST(TestHeapTest, CountsLiveBlocks)
 {
     const size_t before = LiveBlocks();
+    const size_t ever = BlocksEver();
     block = new char[10];
     EXPECT_EQ(LiveBlocks(), before + 1);
     delete[] block;
     EXPECT_EQ(LiveBlocks(), before);
+    EXPECT_EQ(BlocksEver(), ever + 1);
 }
 
 TEST(TestHeapTest, KnowsTheSizeOfABlock)

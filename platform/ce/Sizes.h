@@ -32,6 +32,8 @@ static_assert(sizeof(void*) == 4 && sizeof(long) == 4 && sizeof(int64_t) == 8 &&
 static_assert(sizeof(BufferDisposalFlag) == 4, "enumerations are words");
 static_assert(static_cast<char>(-1) < 0, "plain characters have a sign");
 
+static_assert(COLOR_SCROLLBAR + 1 == 0x40000001, "the brush of gauges and separators");
+
 static_assert(HasSize<PROCESSENTRY32>(564));
 static_assert(offsetof(PROCESSENTRY32, th32ProcessID) == 8);
 static_assert(offsetof(PROCESSENTRY32, cntThreads) == 20);

@@ -38,17 +38,12 @@ TEST_F(CDialogKeysSPTest, ItShowsWhatIsBound)
 TEST_F(CDialogKeysSPTest, TheListIsAsWideAsTheDialogButForAMargin)
 {
     OpenHomeKey([](Opened& opened) {
-        const auto place = [&] {
-            RECT rect = WindowRect(Control(opened, homeList));
-            MapWindowPoints(nullptr, opened.dialog, reinterpret_cast<POINT*>(&rect), 2);
-            return rect;
-        };
         EXPECT_EQ(WindowRect(opened.dialog), WindowRect(opened.app.MainWindow()));
-        const RECT before = place();
+        const RECT before = Place(opened, homeList);
         EXPECT_EQ(before.left, 7);
         EXPECT_EQ(before.right, ClientSize(opened.dialog).cx - 7);
         MoveWindow(opened.dialog, 0, 26, 320, 180, TRUE);
-        EXPECT_EQ(place(), (RECT{7, before.top, 313, before.bottom}));
+        EXPECT_EQ(Place(opened, homeList), (RECT{7, before.top, 313, before.bottom}));
     });
 }
 
@@ -108,7 +103,6 @@ TEST_F(CDialogKeysSPTest, AfterThePickerTheDialogHasItsPlaceAndTheKeyboard)
 {
     for (const UINT answer : {IDOK, IDCANCEL}) {
         OpenHomeKey([&](Opened& opened) {
-            std::vector<HWND> focused;
             ChooseApplication(opened, homeList, [&](Opened& picker) {
                 MoveWindow(opened.dialog, 10, 40, 100, 100, FALSE);
                 Run(picker, answer);
@@ -133,6 +127,20 @@ TEST_F(CDialogKeysSPTest, EnterGoesToTheList)
                                 }),
                   1);
     });
+}
+
+// As its loop reads it: the dialog manager would confirm.
+TEST_F(CDialogKeysSPTest, TheKeyEnterIsTheDialogs)
+{
+    InProgram([&](ProgramApp& app) {
+        app.Later([&] {
+            HWND dialog = app.dialogs->At(0)->Window();
+            PostMessageW(GetDlgItem(dialog, homeList), WM_KEYDOWN, VK_RETURN, 0x1C0001);
+            app.Later([=] { SendMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
+        });
+        EXPECT_EQ(CDialogKeys_SP::Show(app.startPrograms, homeKey), IDCANCEL);
+    });
+    EXPECT_EQ(settings.Command(), -1);
 }
 
 TEST_F(CDialogKeysSPTest, OnlyANewSelectionCounts)

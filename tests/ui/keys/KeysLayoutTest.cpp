@@ -5,13 +5,6 @@
 class KeysLayoutTest : public ButtonsTest
 {
   protected:
-    static RECT Place(const Opened& opened, int id)
-    {
-        RECT rect = WindowRect(Control(opened, id));
-        MapWindowPoints(nullptr, opened.dialog, reinterpret_cast<POINT*>(&rect), 2);
-        return rect;
-    }
-
     static int Scaled(int n)
     {
         HDC screen = GetDC(nullptr);

@@ -31,6 +31,13 @@ int KeysTest::OpenHomeKey(const Step& step)
     return Open(step, [this](ProgramApp& app) { return CDialogKeys_SP::Show(app.startPrograms, homeKey); });
 }
 
+RECT KeysTest::Place(const Opened& opened, int id)
+{
+    RECT rect = WindowRect(Control(opened, id));
+    MapWindowPoints(nullptr, opened.dialog, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
 void KeysTest::SelectKey(const Opened& opened, int row)
 {
     SendMessageW(Control(opened, keyList), LB_SETCURSEL, static_cast<WPARAM>(row), 0);

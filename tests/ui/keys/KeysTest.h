@@ -41,6 +41,7 @@ class KeysTest : public ProgramTest
         SendMessageW(opened.dialog, WM_COMMAND, command, 0);
     }
     static HWND Control(const Opened& opened, int id) { return GetDlgItem(opened.dialog, id); }
+    static RECT Place(const Opened& opened, int id);
     // As a user does with the stylus or the keys.
     static void SelectKey(const Opened& opened, int row);
     static void Choose(const Opened& opened, int list, int item);

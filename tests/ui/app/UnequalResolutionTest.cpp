@@ -3,49 +3,11 @@
 #include "framework/CVireoDialog.h"
 #include "lists/RowMeasures.h"
 #include "tests/ui/ProgramTest.h"
+#include "tests/ui/UnequalScreen.h"
 
-#include <cstdio>
-#include <cstdlib>
-
-// The program reads the resolutions once in a process. So that no other suite gets these, each test runs in a
-// process of its own.
-class UnequalResolutionTest : public ProgramTest
+class UnequalResolutionTest : public ProgramTest, protected UnequalScreen
 {
   protected:
-    static constexpr int across = 288; // three pixels for each of 96 dpi
-    static constexpr int down = 96;    // one
-    SPY(GetDeviceCaps) caps;
-
-    UnequalResolutionTest()
-    {
-        caps.instead = [this](HDC screen, int index) {
-            return index == LOGPIXELSX ? across : index == LOGPIXELSY ? down : caps.Real(screen, index);
-        };
-    }
-
-    // For the other process: ends it, and tells this one what has failed.
-    [[noreturn]] static void EndWithResult()
-    {
-        const testing::TestResult& result = *testing::UnitTest::GetInstance()->current_test_info()->result();
-        for (int i = 0; i < result.total_part_count(); i++) {
-            const testing::TestPartResult& part = result.GetTestPartResult(i);
-            fprintf(stderr, "line %d: %s\n", part.line_number(), part.summary());
-        }
-        fflush(stderr);
-        std::_Exit(HasFailure() ? 1 : 0);
-    }
-
-    template <typename Test>
-    static void InOwnProcess(Test test)
-    {
-        EXPECT_EXIT(
-            {
-                test();
-                EndWithResult();
-            },
-            testing::ExitedWithCode(0), "");
-    }
-
     static int LineOf(HFONT font)
     {
         HDC screen = GetDC(nullptr);

@@ -20,13 +20,6 @@ class CViewStartListTest : public StartPageTest
         return metrics.tmHeight + metrics.tmExternalLeading;
     }
 
-    static RECT OnPageRect(ProgramApp& app, HWND control)
-    {
-        RECT rect = WindowRect(control);
-        MapWindowPoints(nullptr, Page(app).Window(), reinterpret_cast<POINT*>(&rect), 2);
-        return rect;
-    }
-
     static void ExpectLaidOut(ProgramApp& app)
     {
         const int header = BoldLine(app) + ScaledY(1) + ScaledY(8);

@@ -16,6 +16,13 @@ void StartPageTest::AddPrograms(const Names& names)
     }
 }
 
+RECT StartPageTest::OnPageRect(ProgramApp& app, HWND control)
+{
+    RECT rect = WindowRect(control);
+    MapWindowPoints(nullptr, Page(app).Window(), reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
 int StartPageTest::Count(ProgramApp& app)
 {
     return static_cast<int>(SendMessageW(List(app), LVM_GETITEMCOUNT, 0, 0));

@@ -23,6 +23,8 @@ class StartPageTest : public ProgramTest
     static CViewStart& Page(ProgramApp& app) { return *static_cast<CViewStart*>(app.views->At(2)); }
     static HWND List(ProgramApp& app) { return GetDlgItem(Page(app).Window(), IDC_LIST); }
     static HWND Box(ProgramApp& app) { return GetDlgItem(Page(app).Window(), IDC_SEARCH); }
+    // The place of one of the page's controls.
+    static RECT OnPageRect(ProgramApp& app, HWND control);
     static int Count(ProgramApp& app);
     // The names that are listed.
     static Names Listed(ProgramApp& app);

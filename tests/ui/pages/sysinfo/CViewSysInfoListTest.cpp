@@ -15,16 +15,6 @@ class CViewSysInfoListTest : public ShownSysInfo
         return description;
     }
 
-    static int MeasuredHeight(ProgramApp& app)
-    {
-        MEASUREITEMSTRUCT measure = {};
-        measure.CtlType = 102;
-        EXPECT_EQ(
-            SendMessageW(Page(app).Window(), WM_MEASUREITEM, IDC_LIST, reinterpret_cast<LPARAM>(&measure)),
-            TRUE);
-        return static_cast<int>(measure.itemHeight);
-    }
-
     static RECT ListPlace(ProgramApp& app)
     {
         RECT rect = WindowRect(List(app));

@@ -42,6 +42,15 @@ bool ShownSysInfo::IsVisibleRow(ProgramApp& app, int row)
     return row >= TopRow(app) && row < TopRow(app) + RowsPerPage(app);
 }
 
+int ShownSysInfo::MeasuredHeight(ProgramApp& app)
+{
+    MEASUREITEMSTRUCT measure = {};
+    measure.CtlType = 102;
+    EXPECT_EQ(SendMessageW(Page(app).Window(), WM_MEASUREITEM, IDC_LIST, reinterpret_cast<LPARAM>(&measure)),
+              TRUE);
+    return static_cast<int>(measure.itemHeight);
+}
+
 static int Scaled(int pixels, int index)
 {
     const ScreenDC screen;

@@ -21,6 +21,8 @@ class ShownSysInfo : public ProgramTest
     static int TopRow(ProgramApp& app);
     static int RowsPerPage(ProgramApp& app);
     static bool IsVisibleRow(ProgramApp& app, int row);
+    // What the page answers to its list.
+    static int MeasuredHeight(ProgramApp& app);
     // Pixels at 96 dpi on this screen.
     static int X(int pixels);
     static int Y(int pixels);

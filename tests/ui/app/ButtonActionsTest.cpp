@@ -216,10 +216,10 @@ TEST_F(ButtonActionsTest, LockingPressesTheDevicesKeys)
 {
     for (const auto& [device, count] :
          {std::pair{Platform::PocketPC, 2u}, {Platform::Smartphone, 4u}, {Platform::Unknown, 2u}}) {
-        On(device, [&](KeyProgram& app) {
+        On(device, [&, keys = count](KeyProgram& app) {
             press.calls.clear();
             Perform(app, 1, 12);
-            ASSERT_EQ(press.calls.size(), count);
+            ASSERT_EQ(press.calls.size(), keys);
             EXPECT_EQ(std::get<0>(press.calls[0]), 0x85);
         });
     }

@@ -114,11 +114,11 @@ TEST_F(ApplicationChoiceTest, TheNameIsThePathWithoutFoldersAndType)
                  {L"\\Folder.d\\Program", L"Folder"},
                  {L"\\x.exe", L"x"},
                  {L"C:\\Игры\\A & B.lnk", L"A & B"}};
-    for (const auto& [path, name] : cases) {
-        AddBound(std::wstring(path) + L"*" + path);
+    for (const auto& each : cases) {
+        AddBound(std::wstring(each.path) + L"*" + each.path);
         OpenKeys([&](Opened& opened) {
-            EXPECT_EQ(Shown(opened, pressList), name);
-            EXPECT_EQ(Shown(opened, holdList), name);
+            EXPECT_EQ(Shown(opened, pressList), each.name);
+            EXPECT_EQ(Shown(opened, holdList), each.name);
             EXPECT_EQ(Selected(opened, pressList), 13);
             EXPECT_EQ(Selected(opened, holdList), 12);
         });

@@ -159,11 +159,11 @@ TEST_F(HomeKeySaveTest, TheCommandBindsTheProgramsOwnKey)
     InProgram([&](ProgramApp& app) {
         int shown = 0;
         for (const auto& [before, item] : {std::pair{L"Process viewer", 8}, std::pair{L"Close all", 0}}) {
-            app.Later([&] {
+            app.Later([&, expected = before, chosen = item] {
                 Opened opened = {app, app.dialogs->At(0)->Window()};
                 shown++;
-                EXPECT_EQ(Shown(opened, homeList), before);
-                Choose(opened, homeList, item);
+                EXPECT_EQ(Shown(opened, homeList), expected);
+                Choose(opened, homeList, chosen);
                 Run(opened, IDOK);
             });
             SendMessageW(app.MainWindow(), WM_COMMAND, 32814, 0);

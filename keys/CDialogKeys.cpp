@@ -17,7 +17,7 @@ void CDialogKeys::OnInitDialog()
 {
     SetWindowTextW(window, L"Hardware keys");
     press.Fill(Control(IDC_PRESS_ACTION), keyActionCount);
-    hold.Fill(Control(IDC_HOLD_ACTION), KeyActionLockKeys);
+    hold.Fill(Control(IDC_HOLD_ACTION), buttonHoldActionCount);
     Layout();
     keys.Load();
     if (keys.Count() == 0) {

@@ -31,6 +31,7 @@ enum KeyPressLength : WPARAM
 };
 
 inline constexpr uint32_t keyActionCount = 13;
+inline constexpr uint32_t buttonHoldActionCount = KeyActionLockKeys; // only a button's press locks the keys
 // What the user chooses them by, in the order of their numbers.
 inline constexpr const wchar_t* keyActionTexts[keyActionCount] = {
     L"Don't handle",   L"Handle, do nothing",    L"Start application",  L"Task manager",

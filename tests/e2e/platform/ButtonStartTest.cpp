@@ -1,5 +1,6 @@
 // A first start by a hardware button, with another program in front.
 #include "rig/Actor.h"
+#include "tests/e2e/HandheldKeys.h"
 #include "tests/e2e/ShellSession.h"
 
 #include <algorithm>
@@ -76,5 +77,28 @@ TEST_F(ButtonStartTest, TheProgramInFrontIsTheOneThatIsSpared)
         ASSERT_TRUE(IsWindow(front)) << round;
         PostMessageW(main, WM_CLOSE, 0, 0);
         ExpectEnd();
+    }
+}
+
+TEST_F(ButtonStartTest, ARealPressAndARealHoldStartItAndArePerformed)
+{
+    const ButtonDefault button(firstButton);
+    button.Set(L"\"" + ProgramFolder() + L"\\Quorvane.exe\" 193 4*5");
+    const Actor actor;
+    const HWND front = actor.Make({.title = L"In front"});
+    for (const bool holds : {false, true}) {
+        ASSERT_TRUE(Raise(front));
+        KeyDown(VK_F5);
+        if (!holds) {
+            KeyUp(VK_F5);
+        }
+        main = WaitForTopWindow({.className = L"QuorvaneApp"});
+        program.emplace(Program::Running());
+        EXPECT_TRUE(main && program->WaitForPage(holds ? SysInfoPage : ProcsPage)) << holds;
+        EXPECT_TRUE(InFront(main)) << holds;
+        KeyUp(VK_F5);
+        PostMessageW(main, WM_CLOSE, 0, 0);
+        EXPECT_TRUE(WaitFor([this] { return !program->IsRunning(); })) << holds;
+        program.reset();
     }
 }

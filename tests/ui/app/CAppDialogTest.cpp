@@ -110,7 +110,30 @@ TEST_F(CAppDialogTest, ShowingAPageEndsEveryDialogFirst)
         Under(
             command,
             [](ProgramApp& app) {
+                Events order;
+                Events expected;
+                for (uint32_t i = app.dialogs->Count(); i > 0; i--) {
+                    NameWindow(app.dialogs->At(i - 1)->Window(), "dialog " + std::to_string(i));
+                    expected.push_back("end of dialog " + std::to_string(i));
+                }
+                expected.insert(expected.end(), {"soft keys of the page", "front"});
+                const SPY(PostMessageW) post([&](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+                    if (message == 0x8001) {
+                        EXPECT_EQ(wParam, 2u);
+                        order.push_back("end of " + NameOf(window));
+                    }
+                    return post.Real(window, message, wParam, lParam);
+                });
+                const SPY(SHCreateMenuBar) bar([&](SHMENUBARINFO* info) {
+                    order.emplace_back("soft keys of the page");
+                    return bar.Real(info);
+                });
+                const SPY(SetForegroundWindow) front([&](HWND window) {
+                    order.emplace_back("front");
+                    return front.Real(window);
+                });
                 app.ShowPage(4);
+                EXPECT_EQ(order, expected);
                 EXPECT_EQ(app.ActiveView()->Id(), 4);
             },
             [](ProgramApp& app) {

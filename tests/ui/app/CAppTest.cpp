@@ -240,6 +240,10 @@ TEST_F(CAppTest, ItsEndFreesTheProgramsItKnowsAndTheResources)
     SPY(CoInitializeEx) initialise;
     SPY(CoUninitialize) uninitialise;
     ProgramApp app;
+    uninitialise.instead = [&] {
+        EXPECT_EQ(app.resources, nullptr) << "they hold an object of COM's";
+        uninitialise.Real();
+    };
     app.body = [&] {
         EXPECT_NE(app.resources, nullptr);
         ASSERT_EQ(initialise.calls.size(), 1u);

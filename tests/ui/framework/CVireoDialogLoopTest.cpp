@@ -244,6 +244,23 @@ TEST_F(CVireoDialogLoopTest, ClosingTheMainWindowFromOutsideEndsTheDialogAndTheA
     EXPECT_EQ(Only(events, "OnDestroy"), (Events{"dialog OnDestroy", "app OnDestroy"}));
 }
 
+TEST_F(CVireoDialogLoopTest, AnotherWindowsCloseIsThatWindowsOwn)
+{
+    InApp([](TestApp& app) {
+        HWND other = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr,
+                                     app.Instance(), nullptr);
+        TestDialog dialog("dialog");
+        dialog.body = [&] {
+            PostMessageW(other, WM_CLOSE, 0, 0);
+            dialog.End(6);
+        };
+        EXPECT_EQ(dialog.Start(), 6);
+        EXPECT_FALSE(IsWindow(other));
+        EXPECT_FALSE(TakeQuit());
+        EXPECT_TRUE(app.HasMainWindow());
+    });
+}
+
 TEST_F(CVireoDialogLoopTest, AMainWindowThatGoesDuringADialogEndsTheApplication)
 {
     TestApp app;

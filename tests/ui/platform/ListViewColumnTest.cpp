@@ -151,6 +151,19 @@ TEST_F(ListViewColumnTest, AListThatBecameWiderOrNeedsAScrollBarGetsAnotherColum
     EXPECT_EQ(Width(), 150);
 }
 
+// Its column is too wide for it, the scroll bar below that takes room from the rows, and so there are two.
+TEST_F(ListViewColumnTest, AListThatBecameNarrowerHasNoScrollBarsWhenItsRowsFit)
+{
+    SetCount(static_cast<int>(SendMessageW(list, LVM_GETCOUNTPERPAGE, 0, 0)));
+    MoveWindow(list, 0, 0, 60, 80, TRUE);
+    EXPECT_LT(ClientWidth(), 60);
+    Delete();
+    EXPECT_EQ(ClientWidth(), 60);
+    Insert();
+    EXPECT_EQ(Width(), 60);
+    EXPECT_EQ(GetWindowLongPtrW(list, GWL_STYLE) & (WS_HSCROLL | WS_VSCROLL), 0);
+}
+
 TEST_F(ListViewColumnTest, TwoListsDoNotTakeEachOthersColumn)
 {
     HWND other = CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_OWNERDATA, 0,

@@ -5,6 +5,7 @@
 #include "tests/ui/pages/start/StartPageTest.h"
 
 #include <algorithm>
+#include <vector>
 
 class CViewStartListTest : public StartPageTest
 {
@@ -179,6 +180,24 @@ TEST_F(CViewStartListTest, TheFocusNeverStaysInTheList)
         SetFocus(Page(app).Window());
         EXPECT_EQ(GetFocus(), Box(app));
         SetFocus(app.MainWindow());
+        EXPECT_EQ(GetFocus(), Box(app));
+    });
+}
+
+TEST_F(CViewStartListTest, ANewSearchFetchesTheFocusOnlyFromElsewhere)
+{
+    AddPrograms({L"a", L"b"});
+    OnPage([](ProgramApp& app) {
+        std::vector<HWND> asked;
+        const SPY(SetFocus) focus([&](HWND window) {
+            asked.push_back(window);
+            return focus.Real(window);
+        });
+        Type(app, L"a");
+        EXPECT_EQ(asked, std::vector<HWND>{});
+        focus.Real(nullptr);
+        Type(app, L"b");
+        EXPECT_EQ(asked, (std::vector<HWND>{List(app), Box(app)}));
         EXPECT_EQ(GetFocus(), Box(app));
     });
 }

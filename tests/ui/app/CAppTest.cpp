@@ -149,8 +149,13 @@ TEST_F(CAppTest, CloseAllAsksEveryTaskAndThenRefreshesThePage)
     InProgram([&](ProgramApp& app) {
         listed.insert(listed.begin(), app.MainWindow());
         sleep.calls.clear();
-        sleep.instead = [&](DWORD) { listed = {app.MainWindow()}; };
+        const size_t before = Looks();
+        sleep.instead = [&](DWORD) {
+            EXPECT_EQ(Looks(), before + 1) << "only the closing itself comes before the wait";
+            listed = {app.MainWindow()};
+        };
         Run(app, CMD_CLOSE_ALL);
+        EXPECT_EQ(Looks(), before + 2);
         EXPECT_FALSE(IsWindow(first));
         EXPECT_FALSE(IsWindow(second));
         EXPECT_TRUE(app.HasMainWindow());

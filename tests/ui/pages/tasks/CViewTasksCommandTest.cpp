@@ -39,7 +39,11 @@ class CViewTasksCommandTest : public ProgramTest
     {
         HWND task = listed.at(static_cast<size_t>(row));
         app.Tasks().FillList(row);
-        sleep.instead = [this, task](DWORD) { Unlist(task); };
+        const size_t looks = enumWindows.calls.size();
+        sleep.instead = [this, task, looks](DWORD) {
+            EXPECT_EQ(enumWindows.calls.size(), looks) << "listed before the wait";
+            Unlist(task);
+        };
         sleep.calls.clear();
         Run(app, CMD_CLOSE_APPLICATION);
         EXPECT_FALSE(IsWindow(task));

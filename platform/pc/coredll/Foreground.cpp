@@ -95,6 +95,17 @@ static void KeepLowered(HWND window)
     }
 }
 
+// The window's own program takes the front, a moment later on a busy machine; until then nothing is in front.
+// A program that a button starts asks at once which one is, to close or to spare it.
+static void AwaitFront(HWND window)
+{
+    static constexpr int mostWaits = 50;
+    for (int i = 0; i < mostWaits && GetForegroundWindow() != window && IsWindow(window); ++i) {
+        Sleep(10);
+        DeliverPending();
+    }
+}
+
 // A disabled window waits for one that it owns, a dialog or a message box: that one is what the user wants to
 // see.
 static HWND WindowToActivate(const WindowStack& stack, HWND window)
@@ -178,6 +189,7 @@ BOOL SendToBackground(HWND window)
     KeepLowered(window);
     if (next) {
         SetForegroundWindow(next);
+        AwaitFront(next);
     } else {
         SetActiveWindow(nullptr);
     }

@@ -97,5 +97,8 @@ void Keys::Release(int key)
 void Keys::Lock()
 {
     EndMenuInFront();
-    hook.SetLocked(lockScreen.Open());
+    hook.SetLocked(true); // first: nothing passes once the screen is seen
+    if (!lockScreen.Open()) {
+        hook.SetLocked(false);
+    }
 }

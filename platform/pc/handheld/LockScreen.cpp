@@ -92,8 +92,8 @@ void LockScreen::Show()
     case KeyLock::State::Open:
         KillTimer(Window(), frontTimer);
         KillTimer(Window(), questionTimer);
+        whenUnlocked(); // first: who sees the screen go presses keys again
         ShowWindow(Window(), SW_HIDE);
-        whenUnlocked();
         break;
     case KeyLock::State::Confirming:
         SetTimer(Window(), questionTimer, questionTime, nullptr);

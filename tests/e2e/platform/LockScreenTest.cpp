@@ -4,6 +4,7 @@
 #include "rig/MenuTwin.h"
 #include "rig/Picture.h"
 #include "tests/e2e/HandheldKeys.h"
+#include "tests/e2e/LockedKeys.h"
 #include "tests/e2e/ShellSession.h"
 
 using namespace rig;
@@ -13,7 +14,6 @@ class LockScreenTest : public testing::Test
   protected:
     const HandheldKeys keys;
     const Actor actor;
-    const bool isSmartphone = IsSmartphoneSession();
     HWND front = nullptr;
 
     void SetUp() override
@@ -23,27 +23,20 @@ class LockScreenTest : public testing::Test
     }
     void TearDown() override
     {
-        if (Screen()) {
-            Unlock();
+        if (LockScreen()) {
+            UnlockKeys();
         }
         EXPECT_TRUE(IsOpen());
     }
 
-    static HWND Screen() { return FindTopWindow({.className = L"QuorvaneHandheldLock"}); }
-    static bool IsOpen()
-    {
-        return WaitFor([] { return !Screen(); });
-    }
     HWND Lock() const
     {
         keys.Lock();
-        return WaitForTopWindow({.className = L"QuorvaneHandheldLock"});
+        return WaitForLockScreen();
     }
-    void Confirm() const { PressKey(isSmartphone ? VK_MULTIPLY : VK_RETURN); }
-    void Unlock() const
+    static bool IsOpen()
     {
-        PressKey(VK_F1);
-        Confirm();
+        return WaitFor([] { return !LockScreen(); });
     }
     // A key arrives, and no other has before.
     void ExpectNextKey(int count) const
@@ -68,12 +61,12 @@ TEST_F(LockScreenTest, LockedKeysReachNoProgramUntilTheyAreUnlocked)
         PressKey(key);
     }
     EXPECT_FALSE(keys.IsDown(firstButton));
-    EXPECT_TRUE(Screen());
+    EXPECT_TRUE(LockScreen());
     PressKey(VK_F1);
     PressKey(VK_ESCAPE); // takes the question back
-    Confirm();
-    EXPECT_TRUE(Screen());
-    Unlock();
+    ConfirmUnlocking();
+    EXPECT_TRUE(LockScreen());
+    UnlockKeys();
     EXPECT_TRUE(IsOpen());
     EXPECT_EQ(GetForegroundWindow(), front);
     ExpectNextKey(count);
@@ -94,7 +87,7 @@ TEST_F(LockScreenTest, ItCoversTheScreenAndShowsItAgain)
     const Picture locked = look();
     PressKey(VK_F1);
     EXPECT_TRUE(WaitFor([&] { return look() != locked; })) << "the question";
-    Confirm();
+    ConfirmUnlocking();
     EXPECT_TRUE(IsOpen());
     EXPECT_TRUE(WaitFor([&] { return look() == before; }));
 }
@@ -107,7 +100,7 @@ TEST_F(LockScreenTest, AProgramThatComesForwardStaysBelow)
     SetForegroundWindow(window);
     EXPECT_TRUE(WaitFor([=] {
         const std::vector<HWND> windows = TopWindows();
-        return std::find(windows.begin(), windows.end(), Screen()) <
+        return std::find(windows.begin(), windows.end(), LockScreen()) <
                std::find(windows.begin(), windows.end(), window);
     }));
 }
@@ -120,15 +113,15 @@ TEST_F(LockScreenTest, TapsUnlockWhereThereIsATouchScreen)
     ASSERT_TRUE(Lock());
     Tap(middle);
     Tap({Scaled(12), Scaled(13)}); // the flag
-    Send(Screen(), WM_NULL);
-    EXPECT_TRUE(Screen());
+    Send(LockScreen(), WM_NULL);
+    EXPECT_TRUE(LockScreen());
     EXPECT_FALSE(OpenMenu());
     Tap(softKey);
     Tap(middle);
-    if (isSmartphone) {
-        Send(Screen(), WM_NULL);
-        EXPECT_TRUE(Screen()) << "only its star key confirms";
-        Confirm();
+    if (IsSmartphoneSession()) {
+        Send(LockScreen(), WM_NULL);
+        EXPECT_TRUE(LockScreen()) << "only its star key confirms";
+        ConfirmUnlocking();
     }
     EXPECT_TRUE(IsOpen());
     EXPECT_EQ(GetForegroundWindow(), front);

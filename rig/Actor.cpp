@@ -70,6 +70,12 @@ void Actor::Leave(DWORD exitCode) const
     Order(control, actor::EndProcess, &exitCode, sizeof(exitCode));
 }
 
+bool Hang(HWND window)
+{
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    return WaitFor([=] { return !Answers(window, std::chrono::milliseconds(100)); });
+}
+
 int CloseCount(HWND window)
 {
     return static_cast<int>(Send(window, RegisterWindowMessageW(actor::closeCountMessage)));

@@ -56,6 +56,9 @@ class Actor
     void Kill() { process.Terminate(); }
 };
 
+// The program of a window with Closing::Delay stops answering for that time; false when it goes on.
+bool Hang(HWND window);
+
 // How many WM_CLOSE messages a living actor window has received, how many key presses, and how many movements
 // of the stylus.
 int CloseCount(HWND window);

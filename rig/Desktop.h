@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -60,5 +61,8 @@ bool Raise(HWND window);
 
 // SendMessage that gives up when the window does not answer in time.
 LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+// Whether a window answers in that time. The system itself counts a program as hung only after five seconds.
+bool Answers(HWND window, std::chrono::milliseconds timeout);
 
 } // namespace rig

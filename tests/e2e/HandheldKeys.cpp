@@ -61,6 +61,11 @@ bool IsSmartphoneSession()
     return rig::TextOf(rig::FindTopWindow({.className = L"DesktopExplorerWindow"})).empty();
 }
 
+std::wstring OwnCommand(const std::wstring& tail)
+{
+    return L"\"" + rig::ProgramFolder() + L"\\Quorvane.exe\" " + tail;
+}
+
 ButtonDefault::ButtonDefault(int button)
 {
     wchar_t path[60];

@@ -35,6 +35,9 @@ class HandheldKeys
 
 bool IsSmartphoneSession();
 
+// The command line by which a button starts the program.
+std::wstring OwnCommand(const std::wstring& tail);
+
 // The command line of a hardware button, which is as it was when the object has gone.
 class ButtonDefault
 {

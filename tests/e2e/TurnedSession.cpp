@@ -36,24 +36,32 @@ void TurnedSession::Turn(int orientation)
     ASSERT_TRUE(TurnScreen(orientation)) << "the handheld refuses to be turned";
 }
 
+bool TurnedSession::BecomesSideways() const
+{
+    return WaitFor([&] {
+        const RECT screen = ScreenRect();
+        return screen.right == uprightScreen.bottom && screen.bottom == uprightScreen.right;
+    });
+}
+
+bool TurnedSession::BecomesUpright() const
+{
+    return WaitFor([&] {
+        const RECT screen = ScreenRect();
+        return EqualRect(&screen, &uprightScreen);
+    });
+}
+
 void TurnedSession::TurnSideways() const
 {
     Turn(turnedBy270);
-    ASSERT_TRUE(WaitFor([&] {
-        const RECT screen = ScreenRect();
-        return screen.right == uprightScreen.bottom && screen.bottom == uprightScreen.right;
-    })) << "the screen is "
-        << Text(ScreenRect());
+    ASSERT_TRUE(BecomesSideways()) << "the screen is " << Text(ScreenRect());
 }
 
 void TurnedSession::TurnUpright() const
 {
     Turn(upright);
-    ASSERT_TRUE(WaitFor([&] {
-        const RECT screen = ScreenRect();
-        return EqualRect(&screen, &uprightScreen);
-    })) << "the screen is "
-        << Text(ScreenRect());
+    ASSERT_TRUE(BecomesUpright()) << "the screen is " << Text(ScreenRect());
 }
 
 void TurnedSession::ExpectLaidOut(int page) const
@@ -78,6 +86,15 @@ void TurnedSession::ExpectLaidOut(int page) const
     if (const HWND box = SearchBox(page)) {
         EXPECT_EQ(ScreenRectOf(box).left, screen.right - ScreenRectOf(box).right);
     }
+}
+
+void TurnedSession::ExpectDialogFills(HWND dialog, int control)
+{
+    const RECT screen = ScreenRect();
+    const LONG barTop = screen.bottom - Scaled(26);
+    ExpectPlace("the dialog", {0, Scaled(26), screen.right, barTop}, dialog);
+    ExpectPlace("its control", {0, Scaled(26), screen.right, barTop}, GetDlgItem(dialog, control));
+    ExpectPlace("its soft-key bar", {0, barTop, screen.right, screen.bottom}, BarOf(dialog));
 }
 
 void TurnedSession::Show(int page) const

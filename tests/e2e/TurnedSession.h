@@ -16,11 +16,16 @@ class TurnedSession : public ShellSession
     static void Turn(int orientation);
     void TurnSideways() const;
     void TurnUpright() const;
+    // Waits until somebody has turned it.
+    bool BecomesSideways() const;
+    bool BecomesUpright() const;
 
     // The top bar, the program, its soft-key bar and the page have taken their places on the screen as it is
     // now.
     static void ExpectPlace(const char* name, const RECT& wanted, HWND window);
     void ExpectLaidOut(int page) const;
+    // A dialog covers the screen above its own soft-key bar, and a control of it all of that.
+    static void ExpectDialogFills(HWND dialog, int control);
     void Show(int page) const;
 
     std::vector<rig::Picture> Parts(int page) const;

@@ -6,35 +6,13 @@
 
 #include <windows.h>
 
-#include <cstdint>
 #include <ostream>
 
-// The table of the process's GDI objects: the system shares it with every process, and Wine keeps it in the
-// same place. GetGuiResources, which would tell the number, is a stub in Wine 8.0.
-static const size_t gdiTableInPeb = 0xF8;
-static const size_t gdiEntryCount = 0x10000;
-
-struct GdiEntry
-{
-    uint64_t object;
-    uint32_t owner;
-    uint16_t unique;
-    uint8_t type; // 0: free
-    uint8_t flags;
-    uint64_t userPointer;
-};
-static_assert(sizeof(GdiEntry) == 24);
-
-static void CountGdiObjects(std::array<int, 256>& counts)
+static GdiCounts OwnGdiObjects()
 {
     const FARPROC ownPeb = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb");
     const auto* peb = reinterpret_cast<const uint8_t*(WINAPI*)()>(reinterpret_cast<void*>(ownPeb))();
-    const auto* table = *reinterpret_cast<const GdiEntry* const*>(peb + gdiTableInPeb);
-    for (size_t i = 0; table && i < gdiEntryCount; i++) {
-        if (table[i].type != 0) {
-            counts[table[i].type]++;
-        }
-    }
+    return CountGdiObjects(*reinterpret_cast<const GdiEntry* const*>(peb + gdiTableInPeb));
 }
 
 static BOOL CALLBACK CountChild(HWND, LPARAM count)
@@ -93,7 +71,7 @@ ObjectCounts ObjectCounts::Now()
     EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&counts.windows));
     counts.menus = CountMenus();
     counts.acceleratorTables = CountAcceleratorTables();
-    CountGdiObjects(counts.gdiObjects);
+    counts.gdiObjects = OwnGdiObjects();
     return counts;
 }
 

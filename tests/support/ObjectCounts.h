@@ -1,15 +1,16 @@
 // What this process has created and not given back: a before and an after of it show a leak.
 #pragma once
 
-#include <array>
+#include "tests/support/GdiTable.h"
+
 #include <cstddef>
 #include <iosfwd>
 
 // Holds no block itself, so that one count does not disturb the next.
 struct ObjectCounts
 {
-    std::array<int, 256> gdiObjects{}; // number of each type of GDI object
-    int windows = 0;                   // of this thread, children included
+    GdiCounts gdiObjects{};
+    int windows = 0; // of this thread, children included
     int menus = 0;
     int acceleratorTables = 0;
     size_t programBlocks = 0; // of operator new

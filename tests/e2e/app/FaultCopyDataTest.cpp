@@ -1,34 +1,20 @@
 // Records from other programs: whatever they hold, the running program takes them and goes on.
+#include "tests/e2e/HandOver.h"
 #include "tests/e2e/ShellSession.h"
 
 using namespace rig;
 
-static constexpr ULONG_PTR buttonRecord = 1;
-static constexpr size_t recordSize = 1036;
-
 class FaultCopyDataTest : public ShellSession
 {
   protected:
-    // The program's answer; 99 when it gives none.
     LRESULT Hand(ULONG_PTR kind, const std::vector<unsigned char>& bytes) const
     {
-        COPYDATASTRUCT data = {kind, static_cast<DWORD>(bytes.size()),
-                               bytes.empty() ? nullptr : const_cast<unsigned char*>(bytes.data())};
-        DWORD_PTR answer = 99;
-        if (!SendMessageTimeoutW(main, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&data), SMTO_NORMAL, 10000,
-                                 &answer)) {
-            return 99;
-        }
-        return static_cast<LRESULT>(answer);
+        return HandOver(main, kind, bytes);
     }
-
-    // A whole record: a button without a key, two actions, and the rest of the bytes.
+    // A button that is up.
     static std::vector<unsigned char> Record(int press, int hold, unsigned char filling)
     {
-        std::vector<unsigned char> bytes(recordSize, filling);
-        const int32_t numbers[] = {193, press, hold};
-        memcpy(bytes.data(), numbers, sizeof(numbers));
-        return bytes;
+        return ButtonRecord(193, press, hold, filling);
     }
 
     void ExpectGoesOn() const
@@ -50,11 +36,11 @@ TEST_F(FaultCopyDataTest, RecordsOfOtherKinds)
 TEST_F(FaultCopyDataTest, RecordsOfOtherLengths)
 {
     const std::vector<unsigned char> whole = Record(4, 4, 0);
-    for (size_t size : {size_t{0}, size_t{1}, size_t{4}, size_t{12}, recordSize - 1}) {
+    for (size_t size : {size_t{0}, size_t{1}, size_t{4}, size_t{12}, buttonRecordSize - 1}) {
         const std::vector<unsigned char> cut(whole.begin(), whole.begin() + static_cast<int>(size));
         EXPECT_EQ(TRUE, Hand(buttonRecord, cut)) << size;
     }
-    for (size_t size : {recordSize + 1, 2 * recordSize, size_t{1000000}}) {
+    for (size_t size : {buttonRecordSize + 1, 2 * buttonRecordSize, size_t{1000000}}) {
         std::vector<unsigned char> longer = whole;
         longer.resize(size);
         EXPECT_EQ(TRUE, Hand(buttonRecord, longer)) << size;

@@ -13,7 +13,7 @@ class BoundButtonTest : public ShellSession
 
     void SetUp() override
     {
-        button.Set(L"\"" + ProgramFolder() + L"\\Quorvane.exe\" 193 4*5");
+        button.Set(OwnCommand(L"193 4*5"));
         ShellSession::SetUp();
         ASSERT_TRUE(Raise(actor.Make({.title = L"In front"})));
     }

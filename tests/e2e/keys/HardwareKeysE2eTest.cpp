@@ -1,6 +1,7 @@
 // The hardware keys dialog of a Pocket PC by keys and by the stylus: binding buttons, and giving them back.
 // profiles: pocketpc pocketpc-vga
 #include "rig/Picture.h"
+#include "tests/e2e/HandheldKeys.h"
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/keys/KeysScreen.h"
 
@@ -28,10 +29,6 @@ class HardwareKeysE2eTest : public KeysScreen
     {
         AddButton(L"40C1", L"Button 1", L"\\Windows\\Calendar.exe", L"\\Windows\\Calendar.exe", 2);
         AddButton(L"40C2", L"Button 2", L"\\Windows\\Notepad.exe", L"\\Windows\\Notepad.exe", 0);
-    }
-    static std::wstring OwnCommand(const std::wstring& tail)
-    {
-        return L"\"" + ProgramFolder() + L"\\Quorvane.exe\" " + tail;
     }
 
     // Lets a drop-down list fall by the stylus and taps an action in it.

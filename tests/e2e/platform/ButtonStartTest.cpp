@@ -83,7 +83,7 @@ TEST_F(ButtonStartTest, TheProgramInFrontIsTheOneThatIsSpared)
 TEST_F(ButtonStartTest, ARealPressAndARealHoldStartItAndArePerformed)
 {
     const ButtonDefault button(firstButton);
-    button.Set(L"\"" + ProgramFolder() + L"\\Quorvane.exe\" 193 4*5");
+    button.Set(OwnCommand(L"193 4*5"));
     const Actor actor;
     const HWND front = actor.Make({.title = L"In front"});
     for (const bool holds : {false, true}) {

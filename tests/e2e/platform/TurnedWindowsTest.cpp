@@ -10,16 +10,6 @@ using namespace rig;
 class TurnedWindowsTest : public TurnedSession
 {
   protected:
-    // It covers the screen above its own soft-key bar, and a control of it all of that.
-    void ExpectDialogFills(HWND dialog, int control) const
-    {
-        const RECT screen = ScreenRect();
-        const LONG barTop = screen.bottom - Scaled(26);
-        ExpectPlace("the dialog", {0, Scaled(26), screen.right, barTop}, dialog);
-        ExpectPlace("its control", {0, Scaled(26), screen.right, barTop}, GetDlgItem(dialog, control));
-        ExpectPlace("its soft-key bar", {0, barTop, screen.right, screen.bottom}, BarOf(dialog));
-    }
-
     void ExpectDialogTurns(HWND dialog, int control) const
     {
         ASSERT_TRUE(dialog);
@@ -119,11 +109,7 @@ TEST_F(TurnedWindowsTest, AHungProgramDoesNotKeepTheOthersUpright)
     const Actor actor;
     const HWND hung = actor.Make({.title = L"Hung", .closing = actor::Closing::Delay, .delay = 20000});
     ASSERT_TRUE(hung);
-    PostMessageW(hung, WM_CLOSE, 0, 0);
-    ASSERT_TRUE(WaitFor([=] {
-        DWORD_PTR answer = 0;
-        return !SendMessageTimeoutW(hung, WM_NULL, 0, 0, SMTO_NORMAL, 200, &answer);
-    }));
+    ASSERT_TRUE(Hang(hung));
     ComeToFront();
     TurnSideways();
     ExpectLaidOut(TasksPage);

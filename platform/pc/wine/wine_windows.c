@@ -5,8 +5,6 @@
 #include <dlfcn.h>
 #include <stdint.h>
 
-#define WINE_CALL __attribute__((ms_abi))
-
 // GUITHREADINFO of Windows on x86-64.
 typedef struct
 {

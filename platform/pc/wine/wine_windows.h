@@ -4,6 +4,9 @@
 
 #include <X11/Xlib.h>
 
+// How Wine's own functions are called.
+#define WINE_CALL __attribute__((ms_abi))
+
 // Whether another thread than this one has the window in front.
 int AnotherThreadIsInFront(void);
 

@@ -76,6 +76,19 @@ TEST_F(LateExposureTest, TheWindowThatCoversItStaysBeforeIt)
     EXPECT_TRUE(Shows(area, colour));
 }
 
+// A layered window is not on the screen before it is told how to be: as a window that is just being shown.
+TEST_F(LateExposureTest, AWindowThatIsNotOnTheScreenYetStaysBeforeIt)
+{
+    const HWND coming = other.Make({.title = L"Coming", .exStyle = WS_EX_LAYERED, .place = area});
+    ASSERT_TRUE(coming);
+    ASSERT_TRUE(Raise(before));
+    ASSERT_TRUE(IsBefore(coming, behind));
+    SetWindowPos(before, nullptr, 20, 170, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ASSERT_TRUE(WaitFor([] { return Shows(area, RGB(0, 128, 0)); }));
+    ASSERT_TRUE(Answers(behind)); // it has read of it
+    EXPECT_TRUE(IsBefore(coming, behind));
+}
+
 TEST_F(LateExposureTest, WhatIsLeftOfItIsPainted)
 {
     const RECT cover = {60, 90, 120, 130}; // in the middle

@@ -67,6 +67,18 @@ int AnotherThreadIsInFront(void)
 }
 
 // The driver keeps a window's X window in a property that every process can read.
+static Window WholeWindow(const Core* core, void* window)
+{
+    return (Window)core->getProperty(window, u"__wine_x11_whole_window");
+}
+
+int IsFrontWindow(Window window)
+{
+    const Core* core = LoadCore();
+    void* front = core ? core->getForegroundWindow() : NULL;
+    return front && WholeWindow(core, front) == window;
+}
+
 int IsLowestWindow(Window window)
 {
     enum
@@ -82,7 +94,7 @@ int IsLowestWindow(Window window)
         return 0;
     }
     while (count > 0) {
-        const Window lowest = (Window)core->getProperty(windows[--count], u"__wine_x11_whole_window");
+        const Window lowest = WholeWindow(core, windows[--count]);
         if (lowest != None) {
             return lowest == window;
         }

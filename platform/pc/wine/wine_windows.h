@@ -10,5 +10,8 @@
 // Whether another thread than this one has the window in front.
 int AnotherThreadIsInFront(void);
 
+// Whether it is the X window of the window in front, of whatever program.
+int IsFrontWindow(Window window);
+
 // Whether no other window on the screen is behind this one in Wine's order.
 int IsLowestWindow(Window window);

@@ -65,6 +65,20 @@ class LateExposureTest : public testing::Test
         ASSERT_FALSE(Answers(behind)) << "it was to be busy all the time";
         ASSERT_TRUE(WaitFor([&] { return !IsWindow(cause) && Answers(behind); }));
     }
+
+    // When the cover in front moves away. A layered window is not on the screen before it is told how to be:
+    // it is as one that is just being shown.
+    void ExpectAComingWindowStays(HWND cover) const
+    {
+        const HWND coming = other.Make({.title = L"Coming", .exStyle = WS_EX_LAYERED, .place = area});
+        ASSERT_TRUE(behind && cover && coming);
+        ASSERT_TRUE(Raise(cover));
+        ASSERT_TRUE(IsBefore(coming, behind));
+        SetWindowPos(cover, nullptr, 20, 170, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        ASSERT_TRUE(WaitFor([] { return Shows(area, RGB(0, 128, 0)); }));
+        ASSERT_TRUE(Answers(behind)); // it has read of it
+        EXPECT_TRUE(IsBefore(coming, behind));
+    }
 };
 
 TEST_F(LateExposureTest, TheWindowThatCoversItStaysBeforeIt)
@@ -76,17 +90,15 @@ TEST_F(LateExposureTest, TheWindowThatCoversItStaysBeforeIt)
     EXPECT_TRUE(Shows(area, colour));
 }
 
-// A layered window is not on the screen before it is told how to be: as a window that is just being shown.
 TEST_F(LateExposureTest, AWindowThatIsNotOnTheScreenYetStaysBeforeIt)
 {
-    const HWND coming = other.Make({.title = L"Coming", .exStyle = WS_EX_LAYERED, .place = area});
-    ASSERT_TRUE(coming);
-    ASSERT_TRUE(Raise(before));
-    ASSERT_TRUE(IsBefore(coming, behind));
-    SetWindowPos(before, nullptr, 20, 170, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    ASSERT_TRUE(WaitFor([] { return Shows(area, RGB(0, 128, 0)); }));
-    ASSERT_TRUE(Answers(behind)); // it has read of it
-    EXPECT_TRUE(IsBefore(coming, behind));
+    ExpectAComingWindowStays(before);
+}
+
+TEST_F(LateExposureTest, NorDoesAWindowOfTheSameProgramBringItForward)
+{
+    other.Vanish(before);
+    ExpectAComingWindowStays(busy.Make({.title = L"Own", .place = area, .colour = colour}));
 }
 
 TEST_F(LateExposureTest, WhatIsLeftOfItIsPainted)

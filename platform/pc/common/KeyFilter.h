@@ -20,6 +20,8 @@ struct KeyEvent
     Kind kind = Kind::None;
     int key = 0;            // Pressed, Released: the device's code; WhileLocked: the PC's
     bool swallowed = false; // no program must see it
+
+    bool operator==(const KeyEvent& other) const = default;
 };
 
 class KeyFilter

@@ -9,11 +9,6 @@ using Kind = KeyEvent::Kind;
 
 namespace handheld {
 
-static bool operator==(const KeyEvent& one, const KeyEvent& other)
-{
-    return one.kind == other.kind && one.key == other.key && one.swallowed == other.swallowed;
-}
-
 static void PrintTo(const KeyEvent& event, std::ostream* out)
 {
     *out << "kind " << static_cast<int>(event.kind) << ", key " << event.key << ", swallowed "

@@ -1,6 +1,6 @@
-// Wine 8.0 lays the whole list out, scrolls it and sends for its frame when a column goes, and once more when
-// one comes: for the same column again that is a third of the time between a letter of a search and its rows.
-// A column as wide as the list therefore only goes when anything but its like follows.
+// Wine 8.0 sets the scroll bars of a list anew, and draws them, when a column goes and when one comes: for
+// the same column again that is a third of the time between a letter of a search and its rows. A column as
+// wide as the list therefore only goes when anything but its like follows.
 #include "platform/pc/coredll/ListViewColumn.h"
 
 #include <commctrl.h>
@@ -26,6 +26,14 @@ static LRESULT DeleteColumn(HWND list, WNDPROC control, WPARAM column)
     const LRESULT deleted = Ask(list, control, LVM_DELETECOLUMN, column);
     UpdateScrollBars(list, control);
     return deleted;
+}
+
+// It has none below, and one beside it only when not all rows fit.
+static bool HasItsScrollBars(HWND list, WNDPROC control)
+{
+    const LONG_PTR style = GetWindowLongPtrW(list, GWL_STYLE);
+    const bool needsOne = Ask(list, control, LVM_GETITEMCOUNT) > Ask(list, control, LVM_GETCOUNTPERPAGE);
+    return (style & WS_HSCROLL) == 0 && ((style & WS_VSCROLL) != 0) == needsOne;
 }
 
 static bool FillsList(HWND list, WNDPROC control)
@@ -60,8 +68,7 @@ bool RemakesColumn(HWND list, WNDPROC control, UINT message, WPARAM wParam, LPAR
     if (message != LVM_DELETECOLUMN) {
         return false;
     }
-    UpdateScrollBars(list, control);
-    if (wParam == 0 && listInDebt == nullptr && FillsList(list, control)) {
+    if (wParam == 0 && listInDebt == nullptr && HasItsScrollBars(list, control) && FillsList(list, control)) {
         listInDebt = list;
         result = TRUE;
     } else {

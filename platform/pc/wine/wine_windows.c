@@ -23,6 +23,7 @@ typedef struct
     int(WINE_CALL* buildWindowList)(void* desktop, uint32_t, uint32_t, uint32_t, uint32_t thread,
                                     uint32_t room, void** windows, uint32_t* count);
     void*(WINE_CALL* getProperty)(void* window, const uint16_t* name);
+    void*(WINE_CALL* getAncestor)(void* window, uint32_t type);
 } Core;
 
 // Null when it is not the core that this was written for.
@@ -40,8 +41,9 @@ static const Core* LoadCore(void)
         *(void**)&core.getThreadDesktop = dlsym(library, "NtUserGetThreadDesktop");
         *(void**)&core.buildWindowList = dlsym(library, "NtUserBuildHwndList");
         *(void**)&core.getProperty = dlsym(library, "NtUserGetProp");
-        complete = core.getForegroundWindow && core.getThreadInfo && core.getThreadDesktop &&
-                   core.buildWindowList && core.getProperty;
+        *(void**)&core.getAncestor = dlsym(library, "NtUserGetAncestor");
+        complete = core.getAncestor && core.getForegroundWindow && core.getThreadInfo &&
+                   core.getThreadDesktop && core.buildWindowList && core.getProperty;
     }
     return complete ? &core : NULL;
 }
@@ -72,27 +74,43 @@ static Window WholeWindow(const Core* core, void* window)
     return (Window)core->getProperty(window, u"__wine_x11_whole_window");
 }
 
-int IsFrontWindow(Window window)
+enum
 {
+    Room = 1024
+};
+
+// Front-most first; 0 when there are more than there is room for.
+static uint32_t ListWindows(const Core* core, uint32_t thread, void** windows)
+{
+    uint32_t count = 0;
+    void* desktop = core->getThreadDesktop(ThisThread());
+    return core->buildWindowList(desktop, 0, 0, 0, thread, Room, windows, &count) == 0 && count <= Room
+               ? count
+               : 0;
+}
+
+int BelongsToFront(Window window)
+{
+    enum
+    {
+        RootOwner = 3
+    };
     const Core* core = LoadCore();
     void* front = core ? core->getForegroundWindow() : NULL;
-    return front && WholeWindow(core, front) == window;
+    void* windows[Room];
+    for (uint32_t i = front ? ListWindows(core, ThisThread(), windows) : 0; i > 0; i--) {
+        if (WholeWindow(core, windows[i - 1]) == window) {
+            return core->getAncestor(windows[i - 1], RootOwner) == core->getAncestor(front, RootOwner);
+        }
+    }
+    return 0;
 }
 
 int IsLowestWindow(Window window)
 {
-    enum
-    {
-        Room = 1024
-    };
     const Core* core = LoadCore();
-    void* windows[Room]; // front-most first
-    uint32_t count = 0;
-    if (!core ||
-        core->buildWindowList(core->getThreadDesktop(ThisThread()), 0, 0, 0, 0, Room, windows, &count) != 0 ||
-        count > Room) {
-        return 0;
-    }
+    void* windows[Room];
+    uint32_t count = core ? ListWindows(core, 0, windows) : 0;
     while (count > 0) {
         const Window lowest = WholeWindow(core, windows[--count]);
         if (lowest != None) {

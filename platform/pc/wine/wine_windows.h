@@ -10,8 +10,9 @@
 // Whether another thread than this one has the window in front.
 int AnotherThreadIsInFront(void);
 
-// Whether it is the X window of the window in front, of whatever program.
-int IsFrontWindow(Window window);
+// Whether it is the X window of a window of this thread that is in front, or that has the same owner in the
+// end as the one in front: a dialog, its owner and their pop-ups.
+int BelongsToFront(Window window);
 
 // Whether no other window on the screen is behind this one in Wine's order.
 int IsLowestWindow(Window window);

@@ -5,7 +5,7 @@
 // about to, perhaps the menu bar that was made in the place of the one before. Then the home screen is before
 // the program that the user sees, a list of windows shows it first, and a tap sent to the screen reaches it.
 //
-// So only the window in front gets the order changed.
+// So only the window in front, and those that belong to it, get the order changed.
 #define _GNU_SOURCE
 #include "wine_windows.h"
 
@@ -33,7 +33,7 @@ Bool XCheckIfEvent(Display* display, XEvent* event, Predicate predicate, XPointe
     }
     const Bool found = original(display, event, predicate, argument);
     unwanted[0] = unwanted[1];
-    unwanted[1].awaited = found && event->type == Expose && !IsFrontWindow(event->xexpose.window);
+    unwanted[1].awaited = found && event->type == Expose && !BelongsToFront(event->xexpose.window);
     if (unwanted[1].awaited) {
         unwanted[1].width = event->xexpose.width;
         unwanted[1].height = event->xexpose.height;

@@ -1,7 +1,7 @@
 // Describes a picture container as text.
 #pragma once
 
-#include "tools/zrspack/ByteView.h"
+#include "tools/common/ByteView.h"
 
 #include <string>
 

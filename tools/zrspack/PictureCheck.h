@@ -1,7 +1,7 @@
 // Decides whether a file is a picture that the handheld's imaging library can be expected to decode.
 #pragma once
 
-#include "tools/zrspack/ByteView.h"
+#include "tools/common/ByteView.h"
 
 #include <cstdint>
 

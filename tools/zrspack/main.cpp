@@ -3,7 +3,7 @@
 #include "tools/common/OutputFile.h"
 #include "tools/common/Refusal.h"
 #include "tools/common/RunTool.h"
-#include "tools/zrspack/ByteView.h"
+#include "tools/common/ByteView.h"
 #include "tools/zrspack/CommandLine.h"
 #include "tools/zrspack/ContainerListing.h"
 #include "tools/zrspack/ContainerWriter.h"

@@ -1,5 +1,5 @@
 // A bounds-checked look at the bytes of a file.
-#include "tools/zrspack/ByteView.h"
+#include "tools/common/ByteView.h"
 
 #include "tools/common/Refusal.h"
 

@@ -1,0 +1,40 @@
+// The guest as a whole: memory, heap and processor, with one way for their findings.
+#pragma once
+
+#include "tools/runner/machine/ArmImage.h"
+#include "tools/runner/machine/GuestHeap.h"
+#include "tools/runner/machine/Processor.h"
+
+namespace runner {
+
+class Machine : private FindingSink
+{
+    FindingSink& outer;
+
+  public:
+    static constexpr Address stackTop = 0x02000000;
+    static constexpr Address heapBegin = 0x04000000;
+    static constexpr Word heapSize = 0x02000000;
+    // From here on the runner may map what it likes: the command line, views of files.
+    static constexpr Address freeBegin = 0x08000000;
+
+    GuestMemory memory;
+    GuestHeap heap;
+    Processor processor;
+
+    explicit Machine(FindingSink& findings)
+        : outer(findings), memory(*this), heap(memory, *this, heapBegin, heapSize), processor(memory, *this)
+    {}
+
+    // The image's sections, its stack, and the registers at its start: all but the arguments and the link
+    // register. Slots of imports hold their index's trap: import number i is trap i + firstTrap.
+    void Load(const ArmImage& image, Word firstTrap);
+    // Of a bridge: these report with the place of the call.
+    using FindingSink::Report;
+    [[noreturn]] void Misuse(const std::string& text, Address address = 0);
+
+  private:
+    void Take(const Finding& finding) override;
+};
+
+} // namespace runner

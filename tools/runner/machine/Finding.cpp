@@ -108,6 +108,9 @@ std::string Finding::Line(const Symbols* symbols) const
     if (block) {
         line += BlockText(*block, address, symbols);
     }
+    for (const Address caller : callers) {
+        line += "; called from " + PlaceText(caller, symbols);
+    }
     return line;
 }
 

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace runner {
 
@@ -52,7 +53,9 @@ struct Finding
     Word size = 0;
     std::optional<Block> block; // the one that was meant, as far as can be told
     std::string text;           // what else is to be said
-    Address place = 0;          // of the instruction; the machine fills it in
+    // Of the instruction, and the calls that led there, the last one first. The machine fills them in.
+    Address place = 0;
+    std::vector<Address> callers;
 
     // One line. Symbols: null without names.
     std::string Line(const Symbols* symbols) const;

@@ -9,7 +9,7 @@ static constexpr int newFill = 0xCD;
 static constexpr int freedFill = 0xDD;
 
 GuestHeap::GuestHeap(GuestMemory& guestMemory, FindingSink& findings, Address begin, Word size)
-    : memory(guestMemory), sink(findings)
+    : memory(guestMemory), sink(findings), mappedEnd(begin)
 {
     memory.SetHeap(begin, size, this);
     // A block's red zone lies before it; the last one's is left over here.
@@ -19,6 +19,16 @@ GuestHeap::GuestHeap(GuestMemory& guestMemory, FindingSink& findings, Address be
 Word GuestHeap::Whole(Word size)
 {
     return (size + alignment - 1) / alignment * alignment + redZone;
+}
+
+// In steps: a process that needs little does not pay for a large heap.
+void GuestHeap::MapUpTo(Address end)
+{
+    constexpr Word step = 0x10000;
+    while (mappedEnd < end) {
+        memory.Map(mappedEnd, step, CanRead | CanWrite, Content::Undefined);
+        mappedEnd += step;
+    }
 }
 
 Address GuestHeap::TakeGap(Word whole)
@@ -81,6 +91,7 @@ Address GuestHeap::Allocate(Word size, Address caller, Fill fill)
         return 0;
     }
     const Address block = gap + redZone;
+    MapUpTo(block + size + redZone);
     live[block] = {block, size, caller, 0};
     memory.SetHeapBytes(block, size, GuestMemory::ByteState::Live);
     std::memset(memory.Host(block), fill == Fill::Zero ? 0 : newFill, size);

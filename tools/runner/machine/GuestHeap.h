@@ -35,6 +35,7 @@ class GuestHeap : private BlockFinder
     std::map<Address, Block> freed;
     std::deque<Address> freedInOrder;
     std::map<Address, Word> gaps; // red zones included
+    Address mappedEnd;
     std::uint64_t liveBytes = 0;
     std::uint64_t mostBytes = 0;
     std::uint64_t allocations = 0;
@@ -66,6 +67,7 @@ class GuestHeap : private BlockFinder
   private:
     static Word Whole(Word size);
     Address TakeGap(Word whole);
+    void MapUpTo(Address end);
     void GiveGap(Address begin, Word length);
     void ReuseFreed();
     Block& LiveBlock(Address block, const char* use);

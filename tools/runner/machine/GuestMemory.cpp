@@ -8,6 +8,8 @@ namespace runner {
 
 static constexpr std::size_t pageCount = 0x100000;
 
+static_assert(static_cast<int>(GuestMemory::ByteState::Outside) == 0, "a fresh heap is zeroed");
+
 static std::uint8_t* Zeroed(std::size_t size)
 {
     // Untouched pages of such a block cost nothing.
@@ -43,13 +45,12 @@ void GuestMemory::SetHeap(Address begin, Word length, const BlockFinder* blocks)
     heapBegin = begin;
     heapSize = length;
     finder = blocks;
-    heapBytes.assign(length, static_cast<std::uint8_t>(ByteState::Outside));
-    Map(begin, length, CanRead | CanWrite, Content::Undefined);
+    heapBytes.reset(Zeroed(length));
 }
 
 void GuestMemory::SetHeapBytes(Address begin, Word length, ByteState state)
 {
-    std::memset(heapBytes.data() + (begin - heapBegin), static_cast<int>(state), length);
+    std::memset(heapBytes.get() + (begin - heapBegin), static_cast<int>(state), length);
 }
 
 void GuestMemory::SetStack(Address top, Word reserve)
@@ -129,7 +130,7 @@ void GuestMemory::CheckBlock(Access access, Address address, Word length)
     if (address - heapBegin >= heapSize) {
         return;
     }
-    const std::uint8_t* states = heapBytes.data() + (address - heapBegin);
+    const std::uint8_t* states = heapBytes.get() + (address - heapBegin);
     for (Word i = 0; i < length; i++) {
         if (states[i] != static_cast<std::uint8_t>(ByteState::Live)) {
             const bool freed = states[i] == static_cast<std::uint8_t>(ByteState::Freed);

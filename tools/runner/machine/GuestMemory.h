@@ -64,9 +64,9 @@ class GuestMemory
     FindingSink& sink;
     const BlockFinder* finder = nullptr;
     HostBlock bytes;
-    HostBlock undefined;                 // for each byte the mask of its undefined bits
-    std::vector<std::uint8_t> pages;     // protection, of the whole 4 GiB
-    std::vector<std::uint8_t> heapBytes; // a ByteState each
+    HostBlock undefined;             // for each byte the mask of its undefined bits
+    std::vector<std::uint8_t> pages; // protection, of the whole 4 GiB
+    HostBlock heapBytes;             // a ByteState each
     Address heapBegin = 0;
     Word heapSize = 0;
     Address stackLow = 0; // what the header reserves; only the part above the guard page is mapped
@@ -83,7 +83,7 @@ class GuestMemory
     void Map(Address begin, Word length, unsigned protection, Content content = Content::Defined);
     void Unmap(Address begin, Word length);
     unsigned ProtectionAt(Address address) const { return pages[address / pageSize]; }
-    // Accesses to the region have to hit bytes that SetHeapBytes declared live.
+    // Accesses to the region have to hit bytes that SetHeapBytes declared live. The heap maps what it needs.
     void SetHeap(Address begin, Word length, const BlockFinder* blocks);
     void SetHeapBytes(Address begin, Word length, ByteState state);
     // The stack grows page by page from its top down, and never beyond the reserve.

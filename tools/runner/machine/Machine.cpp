@@ -1,6 +1,8 @@
 // Loading, and where a finding happened.
 #include "tools/runner/machine/Machine.h"
 
+#include "tools/runner/machine/Symbols.h"
+
 namespace runner {
 
 void Machine::Load(const ArmImage& image, Word firstTrap)
@@ -12,6 +14,21 @@ void Machine::Load(const ArmImage& image, Word firstTrap)
     }
     memory.SetStack(stackTop, image.StackReserve());
     processor.SetRegister(StackRegister, stackTop);
+}
+
+Address Machine::Allocator(const Symbols& symbols) const
+{
+    const auto isNew = [&symbols](Address place) {
+        return symbols.FunctionOf(place).starts_with("operator new");
+    };
+    Address allocator = processor.Place();
+    for (const Address caller : processor.Callers()) {
+        if (!isNew(allocator)) {
+            break;
+        }
+        allocator = caller;
+    }
+    return allocator;
 }
 
 void Machine::Misuse(const std::string& text, Address address)
@@ -27,6 +44,11 @@ void Machine::Take(const Finding& finding)
 {
     Finding placed = finding;
     placed.place = processor.Place();
+    placed.callers = processor.Callers();
+    // A call that could not even begin.
+    if (!placed.callers.empty() && placed.callers.front() == placed.place) {
+        placed.callers.erase(placed.callers.begin());
+    }
     outer.Report(placed);
 }
 

@@ -29,6 +29,8 @@ class Machine : private FindingSink
     // The image's sections, its stack, and the registers at its start: all but the arguments and the link
     // register. Slots of imports hold their index's trap: import number i is trap i + firstTrap.
     void Load(const ArmImage& image, Word firstTrap);
+    // Who wants the memory that an import is asked for: not the operator that passes the request on.
+    Address Allocator(const Symbols& symbols) const;
     // Of a bridge: these report with the place of the call.
     using FindingSink::Report;
     [[noreturn]] void Misuse(const std::string& text, Address address = 0);

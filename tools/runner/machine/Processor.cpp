@@ -99,6 +99,7 @@ Word Processor::Run(Address start)
         }
     }
     // What is served is the caller's business, not the import stub's.
+    trail.Drop(state.Bits(StackRegister));
     place = state.Bits(LinkRegister) - wordSize;
     return (next - trapBase) / wordSize;
 }
@@ -239,6 +240,12 @@ void Processor::Exchange(unsigned index)
     if (index == ProgramCounter) {
         Refuse(FindingKind::Unpredictable, "an exchange with the program counter");
     }
+    // There is no instruction for calls through a pointer: the link register is set by the one before.
+    if (index == LinkRegister) {
+        trail.Drop(state.Bits(StackRegister));
+    } else if (state.Bits(LinkRegister) == next) {
+        trail.Add(place, state.Bits(StackRegister));
+    }
     Jump(state.r[index]);
 }
 
@@ -247,6 +254,7 @@ void Processor::Branch(Word instruction)
     const bool link = (instruction & 0x01000000) != 0;
     if (link) {
         state.r[LinkRegister] = {next, 0};
+        trail.Add(place, state.Bits(StackRegister));
     }
     // 24 bits with a sign, in words.
     next = place + 8 + static_cast<Word>(static_cast<std::int32_t>(instruction << 8) >> 6);

@@ -1,6 +1,7 @@
 // Interprets ARMv4T code in ARM state.
 #pragma once
 
+#include "tools/runner/machine/CallTrail.h"
 #include "tools/runner/machine/GuestMemory.h"
 #include "tools/runner/machine/Registers.h"
 
@@ -22,6 +23,7 @@ class Processor
     Address place = 0; // of the instruction being executed
     Address next = 0;
     std::uint64_t count = 0;
+    CallTrail trail;
     // How often each instruction of a range was executed; empty when nobody asked.
     std::vector<std::uint64_t> profile;
     Address profileBegin = 0;
@@ -58,6 +60,8 @@ class Processor
 
     // The instruction being executed; while a trap is served, the call of it.
     Address Place() const { return place; }
+    // The calls that led there, the last one first.
+    std::vector<Address> Callers() const { return trail.Places(); }
     std::uint64_t Count() const { return count; }
     void Profile(Address begin, Word length);
     const std::vector<std::uint64_t>& ProfileCounts() const { return profile; }

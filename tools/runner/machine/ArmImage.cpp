@@ -12,6 +12,7 @@ static constexpr std::uint64_t signature = 0x00004550; // "PE"
 static constexpr Word sectionRowSize = 40;
 static constexpr Word libraryRowSize = 20;
 static constexpr Word mostSections = 96;
+static constexpr Word mostBytes = 0x01000000; // what lies below the stack
 
 static void Need(bool good, const char* reason)
 {
@@ -59,7 +60,7 @@ void ArmImage::ReadHeaders()
     headerSize = header.U32Little(84);
     stackReserve = header.U32Little(96);
     Need(base != 0 && base % GuestMemory::pageSize == 0, "has a base that is no page");
-    Need(size <= GuestMemory::size && base <= GuestMemory::size - size, "is larger than the memory");
+    Need(size <= mostBytes && base <= mostBytes - size, "is too large");
     Need(headerSize <= size && headerSize <= file.size(), "has headers that are longer than the file");
     Need(stackReserve != 0 && stackReserve % GuestMemory::pageSize == 0 && stackReserve <= 0x100000,
          "reserves a stack that no process gets");

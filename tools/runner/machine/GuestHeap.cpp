@@ -79,7 +79,7 @@ void GuestHeap::ReuseFreed()
 
 Address GuestHeap::Allocate(Word size, Address caller, Fill fill)
 {
-    if (size > GuestMemory::size) {
+    if (size > memory.Size()) {
         return 0;
     }
     Address gap = TakeGap(Whole(size));

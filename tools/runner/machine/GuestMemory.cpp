@@ -20,8 +20,9 @@ static std::uint8_t* Zeroed(std::size_t size)
     return block;
 }
 
-GuestMemory::GuestMemory(FindingSink& findings)
-    : sink(findings), bytes(Zeroed(size)), undefined(Zeroed(size)), pages(pageCount, NoAccess)
+GuestMemory::GuestMemory(FindingSink& findings, Word memorySize)
+    : sink(findings), size(memorySize), bytes(Zeroed(size)), undefined(Zeroed(size)),
+      pages(pageCount, NoAccess)
 {}
 
 void GuestMemory::Map(Address begin, Word length, unsigned protection, Content content)

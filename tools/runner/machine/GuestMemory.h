@@ -43,7 +43,6 @@ class BlockFinder
 class GuestMemory
 {
   public:
-    static constexpr Word size = 0x10000000;
     static constexpr Word pageSize = 0x1000;
 
     // Of a byte of the heap.
@@ -62,6 +61,7 @@ class GuestMemory
     using HostBlock = std::unique_ptr<std::uint8_t[], Release>;
 
     FindingSink& sink;
+    const Word size;
     const BlockFinder* finder = nullptr;
     HostBlock bytes;
     HostBlock undefined;             // for each byte the mask of its undefined bits
@@ -75,9 +75,11 @@ class GuestMemory
     Address lowestStackPage = 0;
 
   public:
-    explicit GuestMemory(FindingSink& findings);
+    GuestMemory(FindingSink& findings, Word size);
     GuestMemory(const GuestMemory&) = delete;
     GuestMemory& operator=(const GuestMemory&) = delete;
+
+    Word Size() const { return size; }
 
     // ---- Layout. Places and sizes are whole pages.
     void Map(Address begin, Word length, unsigned protection, Content content = Content::Defined);

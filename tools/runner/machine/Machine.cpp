@@ -12,8 +12,8 @@ void Machine::Load(const ArmImage& image, Word firstTrap)
     for (const ArmImage::Import& import : image.Imports()) {
         memory.Write(import.slot, TrapAddress(number++));
     }
-    memory.SetStack(stackTop, image.StackReserve());
-    processor.SetRegister(StackRegister, stackTop);
+    memory.SetStack(layout.stackTop, image.StackReserve());
+    processor.SetRegister(StackRegister, layout.stackTop);
 }
 
 Address Machine::Allocator(const Symbols& symbols) const

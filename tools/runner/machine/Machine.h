@@ -7,23 +7,31 @@
 
 namespace runner {
 
+// Where things are. The image says itself where it wants to be.
+struct Layout
+{
+    Word memorySize = 0x10000000;
+    Address stackTop = 0x02000000;
+    Address heapBegin = 0x04000000;
+    Word heapSize = 0x02000000;
+    // From here on the runner may map what it likes: the command line, views of files.
+    Address freeBegin = 0x08000000;
+};
+
 class Machine : private FindingSink
 {
     FindingSink& outer;
 
   public:
-    static constexpr Address stackTop = 0x02000000;
-    static constexpr Address heapBegin = 0x04000000;
-    static constexpr Word heapSize = 0x02000000;
-    // From here on the runner may map what it likes: the command line, views of files.
-    static constexpr Address freeBegin = 0x08000000;
+    const Layout layout;
 
     GuestMemory memory;
     GuestHeap heap;
     Processor processor;
 
-    explicit Machine(FindingSink& findings)
-        : outer(findings), memory(*this), heap(memory, *this, heapBegin, heapSize), processor(memory, *this)
+    explicit Machine(FindingSink& findings, const Layout& places = {})
+        : outer(findings), layout(places), memory(*this, layout.memorySize),
+          heap(memory, *this, layout.heapBegin, layout.heapSize), processor(memory, *this)
     {}
 
     // The image's sections, its stack, and the registers at its start: all but the arguments and the link

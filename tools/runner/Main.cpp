@@ -1,0 +1,68 @@
+// Runs the device's executable on the PC: started in its place and with its name and command line.
+#include "tools/common/Refusal.h"
+#include "tools/runner/Process.h"
+#include "tools/runner/RunLog.h"
+#include "tools/runner/bridges/ImportBinding.h"
+
+#include <windows.h>
+
+static runner::RunLog* theLog = nullptr;
+
+static std::wstring Variable(const wchar_t* name)
+{
+    wchar_t value[1024];
+    const DWORD length = GetEnvironmentVariableW(name, value, 1024);
+    return length < 1024 ? std::wstring(value, length) : std::wstring();
+}
+
+static std::wstring OwnPath()
+{
+    wchar_t path[MAX_PATH];
+    return std::wstring(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
+}
+
+// What stands behind the program's name, as a device hands it over.
+static std::wstring CommandLine()
+{
+    const wchar_t* place = GetCommandLineW();
+    bool isQuoted = false;
+    for (; *place && (isQuoted || *place != L' '); place++) {
+        isQuoted = *place == L'"' ? !isQuoted : isQuoted;
+    }
+    while (*place == L' ') {
+        place++;
+    }
+    return place;
+}
+
+// A fault in the runner or in a library of the host's is no finding about the guest; it ends the run all the
+// same, with what was being served.
+static LONG CALLBACK HostFault(EXCEPTION_POINTERS* fault)
+{
+    if (fault->ExceptionRecord->ExceptionCode != EXCEPTION_ACCESS_VIOLATION || !theLog) {
+        return EXCEPTION_CONTINUE_SEARCH;
+    }
+    theLog->TellFault(reinterpret_cast<ULONG_PTR>(fault->ExceptionRecord->ExceptionAddress),
+                      fault->ExceptionRecord->ExceptionInformation[1]);
+    TerminateProcess(GetCurrentProcess(), runner::findingExitCode);
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
+{
+    SetProcessDPIAware();
+    const std::wstring path = OwnPath();
+    const std::wstring name = path.substr(0, path.find_last_of(L'.'));
+    runner::RunLog log(Variable(L"QV_RUNNER_LOG"));
+    theLog = &log;
+    AddVectoredExceptionHandler(1, HostFault);
+    const std::wstring without = Variable(L"QV_RUNNER_WITHOUT");
+    runner::DoWithout(std::string(without.begin(), without.end()));
+    try {
+        runner::RunProcess(log, name + L".arm", name + L".elf", CommandLine(),
+                           !Variable(L"QV_RUNNER_TRACE").empty());
+    } catch (const std::exception& error) {
+        log.Tell(std::string("The device's executable Quorvane.arm ") + error.what());
+    }
+    return runner::findingExitCode;
+}

@@ -1,0 +1,17 @@
+// The guest as a process: how it begins and ends.
+#pragma once
+
+#include "tools/runner/calls/Guest.h"
+
+namespace runner {
+
+class RunLog;
+
+// Loads the image and runs it; it ends by EndProcess. Throws Refusal for an image that cannot be run.
+[[noreturn]] void RunProcess(RunLog& log, const std::wstring& image, const std::wstring& symbols,
+                             const std::wstring& commandLine, bool isTraced);
+
+// As TerminateProcess of itself does.
+[[noreturn]] void EndProcess(Word exitCode);
+
+} // namespace runner

@@ -1,0 +1,79 @@
+// Where a run writes what it finds and counts.
+#include "tools/runner/RunLog.h"
+
+#include <windows.h>
+
+namespace runner {
+
+RunLog::RunLog(const std::wstring& prefix)
+{
+    if (!prefix.empty()) {
+        file = _wfopen((prefix + L"." + std::to_wstring(GetCurrentProcessId())).c_str(), L"w");
+    }
+}
+
+void RunLog::Write(const std::string& line)
+{
+    if (file) {
+        std::fprintf(file, "%s\n", line.c_str());
+        std::fflush(file);
+    }
+}
+
+void RunLog::Tell(const std::string& line)
+{
+    Write(line);
+    const std::string text = line + "\n";
+    DWORD written = 0;
+    WriteFile(GetStdHandle(STD_ERROR_HANDLE), text.data(), static_cast<DWORD>(text.size()), &written,
+              nullptr);
+}
+
+void RunLog::Take(const Finding& finding)
+{
+    const Symbols* symbols = guest ? &guest->symbols : nullptr;
+    Tell("FINDING: " + finding.Line(symbols) +
+         (guest ? " [while serving " + guest->CurrentImport() + "]" : ""));
+    for (const Address caller : finding.callers) {
+        char address[16];
+        std::snprintf(address, sizeof address, "%08x", static_cast<unsigned>(caller));
+        Tell(std::string("  called from ") + address + " " + (symbols ? symbols->NameOf(caller) : ""));
+    }
+    TerminateProcess(GetCurrentProcess(), findingExitCode);
+    for (;;) {
+        Sleep(INFINITE);
+    }
+}
+
+void RunLog::TellFault(std::uint64_t place, std::uint64_t address)
+{
+    char text[80];
+    std::snprintf(text, sizeof text, "HOST FAULT at %llx, access to %llx",
+                  static_cast<unsigned long long>(place), static_cast<unsigned long long>(address));
+    Tell(text + (guest ? " [while serving " + guest->CurrentImport() + "]" : std::string()));
+}
+
+void RunLog::WriteSummary(Word exitCode)
+{
+    const GuestHeap& heap = guest->machine.heap;
+    Write("end: code " + std::to_string(exitCode) + ", " + std::to_string(guest->machine.processor.Count()) +
+          " instructions, " + std::to_string(guest->counts.ImportCalls()) + " calls of imports, stack " +
+          std::to_string(Machine::stackTop - guest->machine.memory.LowestStackPage()) + " bytes");
+    Write("heap: " + std::to_string(heap.LiveBlocks()) + " blocks of " + std::to_string(heap.LiveBytes()) +
+          " bytes are left, at most " + std::to_string(heap.MostBytes()) + " bytes, " +
+          std::to_string(heap.Allocations()) + " allocations");
+    for (const GuestHeap::Leak& leak : heap.Leaks()) {
+        Write("  left: " + std::to_string(leak.blocks) + " blocks of " + std::to_string(leak.bytes) +
+              " bytes by " + guest->symbols.NameOf(leak.allocatedAt));
+    }
+    for (const auto& [name, sum] : guest->counts.Sections()) {
+        Write("  part: " + name + " times " + std::to_string(sum.times) + " instructions " +
+              std::to_string(sum.instructions) + " most " + std::to_string(sum.most) + " last " +
+              std::to_string(sum.last) + " imports " + std::to_string(sum.imports));
+    }
+    for (const auto& [name, calls] : guest->counts.Imports()) {
+        Write("  import: " + name + " " + std::to_string(calls));
+    }
+}
+
+} // namespace runner

@@ -1,0 +1,35 @@
+// Where a run writes what it finds and counts.
+#pragma once
+
+#include "tools/runner/calls/Guest.h"
+
+#include <cstdio>
+
+namespace runner {
+
+class RunLog : public Journal, public FindingSink
+{
+    const Guest* guest = nullptr;
+    std::FILE* file = nullptr; // null: findings go to the standard error output alone
+
+  public:
+    // prefix: a file's path; the process's number is put behind it. Empty: no file.
+    explicit RunLog(const std::wstring& prefix);
+    RunLog(const RunLog&) = delete;
+    RunLog& operator=(const RunLog&) = delete;
+
+    // Whose symbols name the places.
+    void SetGuest(const Guest& itsGuest) { guest = &itsGuest; }
+    void Write(const std::string& line) override;
+    // To the standard error output too.
+    void Tell(const std::string& line);
+    // Of the host's code.
+    void TellFault(std::uint64_t place, std::uint64_t address);
+    // What is left when the guest ends: counts, blocks, depth of the stack.
+    void WriteSummary(Word exitCode);
+
+  private:
+    void Take(const Finding& finding) override;
+};
+
+} // namespace runner

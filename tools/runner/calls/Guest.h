@@ -1,0 +1,80 @@
+// The program in the machine, as its host sees it: its imports and how they are served, calls into its code.
+#pragma once
+
+#include "tools/runner/calls/Bridge.h"
+#include "tools/runner/calls/Cookies.h"
+#include "tools/runner/machine/Counts.h"
+#include "tools/runner/machine/Machine.h"
+#include "tools/runner/machine/Symbols.h"
+
+#include <string>
+#include <vector>
+
+namespace runner {
+
+// What is told of the run beside its findings.
+class Journal
+{
+  public:
+    virtual ~Journal() = default;
+    virtual void Write(const std::string& line) = 0;
+};
+
+class Guest
+{
+  public:
+    // A function of the host's, called with as many parameters as it has.
+    using HostFunction = std::uint64_t (*)(std::uint64_t, std::uint64_t, std::uint64_t, std::uint64_t,
+                                           std::uint64_t, std::uint64_t, std::uint64_t, std::uint64_t,
+                                           std::uint64_t, std::uint64_t, std::uint64_t, std::uint64_t,
+                                           std::uint64_t, std::uint64_t);
+
+  private:
+    struct Trap
+    {
+        std::string name;
+        Bridge bridge;
+        HostFunction host; // of a plain function
+        std::uint64_t data;
+    };
+    std::vector<Trap> traps;
+    std::vector<Word> running; // the traps that are being served, the last one innermost
+    bool isStackOdd = false;
+
+  public:
+    Machine machine;
+    Cookies cookies;
+    Symbols symbols;
+    Counts counts;
+    Address image = 0;               // the module that the guest calls itself
+    std::uint64_t hostResources = 0; // the module that has the guest's resources on the host
+    Journal* trace = nullptr;        // null: calls are not told
+
+    explicit Guest(FindingSink& findings);
+    Guest(const Guest&) = delete;
+    Guest& operator=(const Guest&) = delete;
+
+    // The trap's address, which the guest calls. data: what the handler finds as Call::Data.
+    Address AddTrap(const std::string& name, const Bridge& bridge, HostFunction host = nullptr,
+                    std::uint64_t data = 0);
+
+    // Runs the guest's entry. It returns what the entry does, if it does.
+    Word Enter(Address entry, Word a, Word b, Word c, Word d);
+    // Calls a function of the guest's, for instance a window's procedure. Every other call finds a stack that
+    // is aligned to 4 bytes only.
+    Word CallBack(Address function, Word a = 0, Word b = 0, Word c = 0, Word d = 0);
+    // Lowers the guest's stack pointer by at least so much, to an alignment that changes from call to call.
+    Address LowerStack(Word size);
+
+    // What is being served, for messages.
+    std::string CurrentImport() const;
+    // Ends the run: something that the runner does not bring across the border, or should not have met.
+    [[noreturn]] void Misuse(const std::string& text, Address address = 0);
+
+  private:
+    Word RunFrom(Address place);
+    Address Serve(Word trap);
+    void CheckKept(const Registers& before, Address function);
+};
+
+} // namespace runner

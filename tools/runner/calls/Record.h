@@ -1,0 +1,56 @@
+// A structure in the guest's memory, accessed member by member: what nobody reads need not be defined.
+#pragma once
+
+#include "tools/runner/machine/GuestMemory.h"
+
+#include <cstddef>
+
+namespace runner {
+
+// T: the structure as the guest lays it out, of words and their like.
+template <class T>
+class Record
+{
+    static_assert(std::is_trivially_copyable_v<T> && std::is_standard_layout_v<T>);
+
+    GuestMemory* memory;
+    Address address;
+
+  public:
+    Record(GuestMemory& guestMemory, Address itsAddress) : memory(&guestMemory), address(itsAddress) {}
+
+    explicit operator bool() const { return address != 0; }
+    Address At() const { return address; }
+    template <class M>
+    Address At(M T::*member) const
+    {
+        alignas(T) static const char room[sizeof(T)] = {};
+        const T* const origin = reinterpret_cast<const T*>(room);
+        return address + static_cast<Address>(reinterpret_cast<const char*>(&(origin->*member)) - room);
+    }
+
+    // One member, which has to be defined.
+    template <class M>
+    M Get(M T::*member) const
+    {
+        return memory->Read<M>(At(member));
+    }
+    // One member, where it does not matter whether it is defined.
+    template <class M>
+    M Look(M T::*member) const
+    {
+        M value;
+        std::memcpy(&value, memory->Checked(At(member), 1, sizeof(M), Access::Look), sizeof(M));
+        return value;
+    }
+    template <class M>
+    void Set(M T::*member, const M& value) const
+    {
+        memory->Write<M>(At(member), value);
+    }
+    // The whole, of which every byte has to be defined.
+    T GetAll() const { return memory->Read<T>(address); }
+    void SetAll(const T& value) const { memory->Write<T>(address, value); }
+};
+
+} // namespace runner

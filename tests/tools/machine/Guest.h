@@ -4,6 +4,7 @@
 #include "tools/runner/machine/Machine.h"
 
 #include <gtest/gtest.h>
+#include <span>
 
 namespace runner {
 

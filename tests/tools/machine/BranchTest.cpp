@@ -1,0 +1,96 @@
+// Branches, calls, returns, and where they must not lead.
+#include "tests/tools/machine/Guest.h"
+
+namespace runner {
+
+TEST(BranchTest, ForwardsAndBackwards)
+{
+    Guest guest;
+    // A loop of three rounds.
+    guest.Run({0xE3A00000, 0xE3A01003, 0xE2800005, 0xE2511001, 0x1AFFFFFC, 0xEA000001, 0xE3A00000, 0xE3A00001,
+               0xE2800064});
+    EXPECT_EQ(guest.Bits(0), 115u);
+}
+
+TEST(BranchTest, CallAndReturn)
+{
+    Guest guest;
+    guest.Run(
+        {0xEB000002, 0xE1A0100E, 0xEA000003, 0xE3A09009, 0xE3A00005, 0xE12FFF1E, 0xE3A09009, 0xE3A02002});
+    EXPECT_EQ(guest.Bits(0), 5u);
+    EXPECT_EQ(guest.Bits(1), Guest::code + 4);
+    EXPECT_EQ(guest.Bits(2), 2u);
+    EXPECT_EQ(guest.Bits(9), 0u);
+}
+
+TEST(BranchTest, TableOfASwitch)
+{
+    Guest guest;
+    guest.before.r[0] = {1, 0};
+    guest.Run({0xE3500002, 0x979FF100, 0xE3A09009, Guest::code + 24, Guest::code + 28, Guest::code + 32,
+               0xE3A01001, 0xE3A02001, 0xE3A03001});
+    EXPECT_EQ(guest.Bits(1), 0u);
+    EXPECT_EQ(guest.Bits(2), 1u);
+    EXPECT_EQ(guest.Bits(3), 1u);
+    EXPECT_EQ(guest.Bits(9), 0u);
+}
+
+TEST(BranchTest, SumsLeadThereToo)
+{
+    Guest guest;
+    guest.Run({0xE28FF004, 0xE3A01001, 0xE3A02001, 0xE3A03001, 0xE1A0E00F, 0xE24EF000});
+    EXPECT_EQ(guest.Bits(1), 0u);
+    EXPECT_EQ(guest.Bits(2), 0u);
+    EXPECT_EQ(guest.Bits(3), 1u);
+    EXPECT_EQ(guest.Bits(LinkRegister), Guest::code + 24);
+}
+
+TEST(BranchTest, TrapsAreTold)
+{
+    Guest guest;
+    guest.Run({0xE1A08008});
+    guest.machine.processor.SetRegister(0, TrapAddress(123));
+    std::memcpy(guest.machine.memory.Host(Guest::code), "\x10\xFF\x2F\xE1", 4); // bx r0
+    EXPECT_EQ(guest.machine.processor.Run(Guest::code), 123u);
+    // What already is a trap needs no instruction.
+    EXPECT_EQ(guest.machine.processor.Run(TrapAddress(5)), 5u);
+}
+
+static Finding JumpTo(Address target)
+{
+    Guest guest;
+    guest.before.r[0] = {target, 0};
+    const Finding finding = FindingOf([&guest] { guest.Run({0xE1A08008, 0xE12FFF10}); });
+    EXPECT_EQ(finding.access, Access::Execute);
+    EXPECT_EQ(finding.address, target);
+    // The jump is to blame.
+    EXPECT_EQ(finding.place, Guest::code + 4);
+    return finding;
+}
+
+TEST(BranchTest, WildJumpsAreFound)
+{
+    EXPECT_EQ(JumpTo(0).kind, FindingKind::Unmapped);
+    EXPECT_EQ(JumpTo(0x00100000).kind, FindingKind::Unmapped);
+    EXPECT_EQ(JumpTo(Guest::data).kind, FindingKind::Protected);
+    EXPECT_EQ(JumpTo(Guest::stackTop - 4).kind, FindingKind::Protected);
+    EXPECT_EQ(JumpTo(Guest::code + 1).kind, FindingKind::Thumb);
+    EXPECT_EQ(JumpTo(Guest::code + 2).kind, FindingKind::Unaligned);
+}
+
+TEST(BranchTest, CallersAreKnown)
+{
+    Guest guest;
+    // The outer function calls one that pushes and calls a third through a pointer, which faults.
+    const Finding finding = FindingOf([&guest] {
+        guest.Run({0xE1A08008, 0xE92D4010, 0xEB000002, 0xE1A08008, 0xE1A08008, 0xE1A08008, 0xE92D4010,
+                   0xEB000004, 0xE28F3010, 0xE1A0E00F, 0xE12FFF13, 0xE1A08008, 0xE1A08008, 0xE12FFF1E,
+                   0xE5950000});
+    });
+    EXPECT_EQ(finding.kind, FindingKind::Unmapped);
+    EXPECT_EQ(finding.place, Guest::code + 4 * 14);
+    const std::vector<Address> expected = {Guest::code + 4 * 10, Guest::code + 4 * 2};
+    EXPECT_EQ(finding.callers, expected);
+}
+
+} // namespace runner

@@ -31,13 +31,14 @@ static void BindImports(Guest& guest, const ArmImage& image)
     }
 }
 
-static Address PlaceCommandLine(GuestMemory& memory, const std::wstring& text)
+static Address PlaceCommandLine(Machine& machine, const std::wstring& text)
 {
     const auto bytes = static_cast<Word>((text.size() + 1) * sizeof(wchar_t));
     const Word pages = (bytes + GuestMemory::pageSize - 1) / GuestMemory::pageSize * GuestMemory::pageSize;
-    memory.Map(Machine::freeBegin, pages, CanRead);
-    std::memcpy(memory.Host(Machine::freeBegin), text.c_str(), bytes);
-    return Machine::freeBegin;
+    const Address place = machine.layout.freeBegin;
+    machine.memory.Map(place, pages, CanRead);
+    std::memcpy(machine.memory.Host(place), text.c_str(), bytes);
+    return place;
 }
 
 void RunProcess(RunLog& log, const std::wstring& imagePath, const std::wstring& symbolPath,
@@ -61,7 +62,7 @@ void RunProcess(RunLog& log, const std::wstring& imagePath, const std::wstring& 
     }
     guest.machine.Load(image, 1);
     BindImports(guest, image);
-    const Address text = PlaceCommandLine(guest.machine.memory, commandLine);
+    const Address text = PlaceCommandLine(guest.machine, commandLine);
     guest.Enter(image.Entry(), image.Base(), 0, text, SW_SHOWNORMAL);
     guest.Misuse("the entry returned");
 }

@@ -4,7 +4,8 @@
 namespace runner {
 
 static constexpr Bridges (*subjects[])() = {
-    PaintingBridges,
+    DialogBridges,   GraphicObjectBridges, KeyBridges,    MenuBridges,         PaintingBridges, QueueBridges,
+    ResourceBridges, ShellWindowBridges,   SystemBridges, TextPaintingBridges, WindowBridges,
 };
 
 const Bridge* FindBridge(std::string_view name)

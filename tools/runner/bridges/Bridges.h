@@ -8,7 +8,17 @@
 
 namespace runner {
 
+Bridges DialogBridges();
+Bridges GraphicObjectBridges();
+Bridges KeyBridges();
+Bridges MenuBridges();
 Bridges PaintingBridges();
+Bridges QueueBridges();
+Bridges ResourceBridges();
+Bridges ShellWindowBridges();
+Bridges SystemBridges();
+Bridges TextPaintingBridges();
+Bridges WindowBridges();
 
 // Of all subjects; null for a function that none has.
 const Bridge* FindBridge(std::string_view name);

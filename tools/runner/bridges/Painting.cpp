@@ -43,21 +43,14 @@ static Word DoEndPaint(Call& call)
 }
 
 static constexpr Bridge bridges[] = {
-    {"BeginPaint", DoBeginPaint},
-    {"BitBlt", "u hiiii hiiu"},
-    {"CreateCompatibleBitmap", "h hii"},
-    {"CreateCompatibleDC", "h h"},
-    {"CreateFontIndirectW", "h p92"},
-    {"CreatePen", "h iiu"},
-    {"DeleteDC", "u h"},
-    {"DeleteObject", "u h"},
-    {"DrawIconEx", "u hii hii uhu"},
-    {"DrawTextW", "i htix16u"},
-    {"EndPaint", DoEndPaint},
-    {"ExtTextOutW", "u hiiup16buu"},
-    {"FillRect", "u hp16r"},
-    {"GetDC", "h h"},
-    {"ReleaseDC", "u hh"},
+    {"BeginPaint", DoBeginPaint},  {"BitBlt", "u hiiii hiiu"},  {"CreateCompatibleDC", "h h"},
+    {"CreatePen", "h iiu"},        {"DeleteDC", "u h"},         {"DrawIconEx", "u hii hii uhu"},
+    {"EndPaint", DoEndPaint},      {"FillRect", "u hp16r"},     {"GetDC", "h h"},
+    {"GetSysColor", "d c"},        {"GetSysColorBrush", "h c"}, {"IntersectClipRect", "d hiiii"},
+    {"InvalidateRect", "u hp16i"}, {"LineTo", "u hii"},         {"MoveToEx", "u hiiq8"},
+    {"Rectangle", "u hiiii"},      {"ReleaseDC", "u hh"},       {"SelectObject", "h hh"},
+    {"SetBkColor", "d hu"},        {"SetBkMode", "d hi"},       {"SetTextColor", "d hu"},
+    {"UpdateWindow", "u h"},
 };
 
 Bridges PaintingBridges()

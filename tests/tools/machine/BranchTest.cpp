@@ -93,4 +93,14 @@ TEST(BranchTest, CallersAreKnown)
     EXPECT_EQ(finding.callers, expected);
 }
 
+TEST(BranchTest, CallsThatReturnedAreForgotten)
+{
+    Guest guest;
+    const Finding finding = FindingOf([&guest] {
+        guest.Run({0xEB000002, 0xE5950000, 0xE1A08008, 0xE1A08008, 0xE12FFF1E});
+    });
+    EXPECT_EQ(finding.place, Guest::code + 4);
+    EXPECT_TRUE(finding.callers.empty());
+}
+
 } // namespace runner

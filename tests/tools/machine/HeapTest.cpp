@@ -170,4 +170,19 @@ TEST(HeapTest, AFullHeapGivesNothing)
     EXPECT_TRUE(heap.IsBlock(block));
 }
 
+TEST(HeapTest, TheLastBlockHasAnEndToo)
+{
+    Guest guest;
+    Address block = 0;
+    Word size = Guest::heapSize;
+    while (block == 0) {
+        size -= 8;
+        block = guest.machine.heap.Allocate(size, caller);
+    }
+    EXPECT_GT(size, Guest::heapSize - 0x1000);
+    EXPECT_EQ(Touch(guest, loadByte, block + size).kind, FindingKind::OutOfBlock);
+    EXPECT_EQ(Touch(guest, storeByte, block + size).kind, FindingKind::OutOfBlock);
+    EXPECT_EQ(Touch(guest, loadByte, Guest::heapBegin + Guest::heapSize).kind, FindingKind::Unmapped);
+}
+
 } // namespace runner

@@ -76,6 +76,19 @@ TEST(MultipleTransferTest, BaseAmongTheLoaded)
     EXPECT_EQ(guest.Bits(2), 8u);
 }
 
+// Of a base that moves, what it was is stored, if it is the lowest of the registers.
+TEST(MultipleTransferTest, BaseAmongTheStored)
+{
+    Guest guest;
+    guest.before.r[1] = {middle, 0};
+    guest.before.r[LinkRegister] = {0xEE, 0};
+    guest.Run({0xE8A10006, 0xE92D6000, 0xE59D3000, 0xE59D4004, 0xE28DD008});
+    EXPECT_EQ(guest.WordAt(middle), middle);
+    EXPECT_EQ(guest.Bits(1), middle + 8);
+    EXPECT_EQ(guest.Bits(3), Guest::stackTop);
+    EXPECT_EQ(guest.Bits(4), 0xEEu);
+}
+
 TEST(MultipleTransferTest, PushAndPop)
 {
     Guest guest;

@@ -77,7 +77,7 @@ TEST(RefusedInstructionTest, Unpredictable)
         {"ldrh pc, [r1]", 0xE1D1F0B0},
         {"ldrh r0, [r1, pc]", 0xE19100BF},
         {"ldmia r1!, {r1, r2}", 0xE8B10006},
-        {"stmia r1!, {r1, r2}", 0xE8A10006},
+        {"stmia r2!, {r1, r2}", 0xE8A20006},
         {"stmia r1, {}", 0xE8810000},
         {"ldmia pc, {r0}", 0xE89F0001},
         {"swp r0, r1, [r1]", 0xE1010091},

@@ -23,6 +23,9 @@ TEST(StackTest, EndsWithItsReserve)
     EXPECT_EQ(finding.kind, FindingKind::StackOverflow);
     EXPECT_EQ(guest.machine.memory.LowestStackPage(), low);
     EXPECT_EQ(guest.machine.processor.Register(StackRegister), low);
+    // Nor is there another guard page below.
+    guest.before.r[1] = {low - 4, 0};
+    ExpectFinding(FindingKind::StackOverflow, [&guest] { guest.Run({0xE5810000}); });
 }
 
 // The device commits the next page alone: a frame that reaches over it faults.

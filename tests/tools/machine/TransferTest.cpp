@@ -101,6 +101,16 @@ TEST(TransferTest, HalfWordsAndSigns)
     EXPECT_EQ(guest.Bits(1), middle);
 }
 
+TEST(TransferTest, FarHalfWords)
+{
+    Guest guest;
+    guest.PutWord(middle + 0xC4, 0x5678);
+    guest.before.r[1] = {middle, 0};
+    guest.Run({0xE1D10CB4, 0xE1410FB2});
+    EXPECT_EQ(guest.Bits(0), 0x5678u);
+    EXPECT_EQ(guest.machine.memory.Read<std::uint16_t>(middle - 0xF2), 0x5678);
+}
+
 TEST(TransferTest, FlagsAndShifterDoNotMix)
 {
     Guest guest;

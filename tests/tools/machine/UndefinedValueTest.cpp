@@ -67,6 +67,19 @@ TEST(UndefinedValueTest, DecidesTheWay)
     ExpectFound({0xE1A0D000}, "it becomes the stack pointer");
 }
 
+TEST(UndefinedValueTest, FlagsAreDefinedOneByOne)
+{
+    ExpectFound({0xE1B02000, 0x43A03001}, "a condition depends on it");
+    Guest guest;
+    guest.before.flags.undefined = AllFlags;
+    // Logic leaves the overflow as it is, and the carry where nothing is shifted.
+    WithUndefined(guest).Run({0xE5910000, 0xE210207F, 0x43833001, 0xE3110000, 0x03A04001});
+    EXPECT_EQ(guest.State().flags.undefined, CarryFlag | OverflowFlag);
+    EXPECT_EQ(guest.Bits(4), 1u);
+    guest.Run({0xE1510001});
+    EXPECT_EQ(guest.State().flags.undefined, 0u);
+}
+
 TEST(UndefinedValueTest, CarryPassesItOn)
 {
     EXPECT_EQ(UndefinedAfter({0xE0902000, 0xE0A83008}, 3), allBits);
@@ -76,6 +89,7 @@ TEST(UndefinedValueTest, CarryPassesItOn)
 
 TEST(UndefinedValueTest, LogicIsExactToTheBit)
 {
+    EXPECT_EQ(UndefinedAfter({0xE3A020FF, 0xE0022000}, 2), 0xFFu);
     EXPECT_EQ(UndefinedAfter({0xE20020FF}, 2), 0xFFu);
     EXPECT_EQ(UndefinedAfter({0xE3C020FF}, 2), 0xFFFFFF00u);
     EXPECT_EQ(UndefinedAfter({0xE38020F0}, 2), 0xFFFFFF0Fu);
@@ -96,6 +110,8 @@ TEST(UndefinedValueTest, SumsAndProductsFromTheLowestBitOn)
     EXPECT_EQ(UndefinedAfter({0xE2002C01, 0xE0030892}, 3), 0xFFFFFF00u);
     EXPECT_EQ(UndefinedAfter({0xE0832890}, 3), allBits);
     EXPECT_EQ(UndefinedAfter({0xE3A02000, 0xE3A03000, 0xE0A32898}, 3), 0u);
+    EXPECT_EQ(UndefinedAfter({0xE2002C01, 0xE0843892}, 3), 0xFFFFFF00u);
+    EXPECT_EQ(UndefinedAfter({0xE2002C01, 0xE0843892}, 4), allBits);
 }
 
 TEST(UndefinedValueTest, BytesOfAWord)

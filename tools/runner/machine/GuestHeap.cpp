@@ -96,9 +96,7 @@ Address GuestHeap::Allocate(Word size, Address caller, Fill fill)
     memory.SetHeapBytes(block, size, GuestMemory::ByteState::Live);
     std::memset(memory.Host(block), fill == Fill::Zero ? 0 : newFill, size);
     if (fill == Fill::Zero) {
-        memory.MarkDefined(block, size);
-    } else {
-        memory.MarkUndefined(block, size);
+        memory.MarkDefined(block, size); // as nothing is outside the blocks
     }
     allocations++;
     liveBytes += size;

@@ -20,11 +20,15 @@ void Processor::LoadMany(Address address, Word list)
     }
 }
 
-void Processor::StoreMany(Address address, Word list)
+void Processor::StoreMany(Address address, Word list, unsigned rn, Value base)
 {
     for (Word left = list; left != 0; left &= left - 1) {
         const auto index = static_cast<unsigned>(std::countr_zero(left));
-        memory.Store<Word>(address, index == ProgramCounter ? Value{place + 12, 0} : state.r[index]);
+        Value value = index == rn ? base : state.r[index];
+        if (index == ProgramCounter) {
+            value = {place + 12, 0};
+        }
+        memory.Store<Word>(address, value);
         address += wordSize;
     }
 }
@@ -40,7 +44,9 @@ void Processor::TransferMany(Word instruction)
     if ((instruction & 0x00400000) != 0) {
         Refuse(FindingKind::UnknownInstruction, "registers of another mode");
     }
-    if (list == 0 || rn == ProgramCounter || (writeBack && (list >> rn & 1) != 0)) {
+    // Of a base that moves, the old value is stored if it is the lowest register.
+    const bool isBaseListed = (list >> rn & 1) != 0 && (load || (list & ((1u << rn) - 1)) != 0);
+    if (list == 0 || rn == ProgramCounter || (writeBack && isBaseListed)) {
         Refuse(FindingKind::Unpredictable, "no registers, or the base among them");
     }
     const Value base = state.r[rn];
@@ -56,7 +62,7 @@ void Processor::TransferMany(Word instruction)
     if (load) {
         LoadMany(address, list);
     } else {
-        StoreMany(address, list);
+        StoreMany(address, list, rn, base);
     }
     if (writeBack && up) {
         SetResult(rn, {moved, 0});

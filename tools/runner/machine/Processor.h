@@ -120,7 +120,8 @@ class Processor
     void TransferHalf(Word instruction);
     void TransferMany(Word instruction);
     void LoadMany(Address address, Word list);
-    void StoreMany(Address address, Word list);
+    // Rn: the base register, which may have moved already.
+    void StoreMany(Address address, Word list, unsigned rn, Value base);
 };
 
 } // namespace runner

@@ -46,7 +46,7 @@ static Value ShiftRightWithSign(Value value, unsigned distance, Value& carry)
 
 static Value RotateRight(Value value, unsigned distance, Value& carry)
 {
-    const Value rotated = Rotated(value, distance % 32);
+    const Value rotated = Rotated(value, distance);
     carry = Bit(rotated, 31);
     return rotated;
 }

@@ -10,8 +10,7 @@ namespace rig {
 
 static bool BelongsToProgram(const std::filesystem::path& file)
 {
-    const std::wstring name = file.filename().wstring();
-    return name == L"Quorvane.exe" || name == L"Quorvane.zrs" || file.extension() == L".dll";
+    return file.stem() == L"Quorvane" || file.extension() == L".dll";
 }
 
 ProgramCopy::ProgramCopy()

@@ -4,8 +4,11 @@
 namespace runner {
 
 static constexpr Bridges (*subjects[])() = {
-    DialogBridges,   GraphicObjectBridges, KeyBridges,    MenuBridges,         PaintingBridges, QueueBridges,
-    ResourceBridges, ShellWindowBridges,   SystemBridges, TextPaintingBridges, WindowBridges,
+    DeviceBridges,   DialogBridges,      FileBridges,   FormattingBridges, GraphicObjectBridges,
+    HeapWalkBridges, ImagingBridges,     KeyBridges,    LibraryBridges,    MemoryBridges,
+    MenuBridges,     PaintingBridges,    QueueBridges,  RegistryBridges,   ResourceBridges,
+    ShellBridges,    ShellWindowBridges, StringBridges, SystemBridges,     TextPaintingBridges,
+    ToolhelpBridges, WindowBridges,
 };
 
 const Bridge* FindBridge(std::string_view name)

@@ -8,16 +8,27 @@
 
 namespace runner {
 
+Bridges DeviceBridges();
 Bridges DialogBridges();
+Bridges FileBridges();
+Bridges FormattingBridges();
 Bridges GraphicObjectBridges();
+Bridges HeapWalkBridges();
+Bridges ImagingBridges();
 Bridges KeyBridges();
+Bridges LibraryBridges();
+Bridges MemoryBridges();
 Bridges MenuBridges();
 Bridges PaintingBridges();
 Bridges QueueBridges();
+Bridges RegistryBridges();
 Bridges ResourceBridges();
+Bridges ShellBridges();
 Bridges ShellWindowBridges();
+Bridges StringBridges();
 Bridges SystemBridges();
 Bridges TextPaintingBridges();
+Bridges ToolhelpBridges();
 Bridges WindowBridges();
 
 // Of all subjects; null for a function that none has.

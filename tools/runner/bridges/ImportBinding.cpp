@@ -26,6 +26,16 @@ static std::string BaseName(const std::string& library)
     return base;
 }
 
+std::string HostLibraryOf(const std::string& library)
+{
+    for (const ImportRow& row : importRows) {
+        if (row.library == BaseName(library)) {
+            return row.substitute;
+        }
+    }
+    return "";
+}
+
 static const ImportRow* FindRow(const std::string& library, const std::string& name)
 {
     for (const ImportRow& row : importRows) {

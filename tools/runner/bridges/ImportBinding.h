@@ -12,6 +12,9 @@ namespace runner {
 // that this run does without.
 Address BindImport(Guest& guest, const std::string& library, const std::string& name);
 
+// The host's library that stands in for one of the device's; empty for one that the device does not have.
+std::string HostLibraryOf(const std::string& library);
+
 // Functions that this run's device lacks, for tests of late functions: "aygshell#84" or "coredll.GetX",
 // separated by commas.
 void DoWithout(const std::string& list);

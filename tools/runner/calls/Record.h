@@ -3,11 +3,12 @@
 
 #include "tools/runner/machine/GuestMemory.h"
 
+#include <concepts>
 #include <cstddef>
 
 namespace runner {
 
-// T: the structure as the guest lays it out, of words and their like.
+// T: the structure as the guest lays it out, of words and their like; or a single word.
 template <class T>
 class Record
 {
@@ -21,8 +22,8 @@ class Record
 
     explicit operator bool() const { return address != 0; }
     Address At() const { return address; }
-    template <class M>
-    Address At(M T::*member) const
+    template <class M, std::same_as<T> S>
+    Address At(M S::*member) const
     {
         alignas(T) static const char room[sizeof(T)] = {};
         const T* const origin = reinterpret_cast<const T*>(room);
@@ -30,21 +31,21 @@ class Record
     }
 
     // One member, which has to be defined.
-    template <class M>
-    M Get(M T::*member) const
+    template <class M, std::same_as<T> S>
+    M Get(M S::*member) const
     {
         return memory->Read<M>(At(member));
     }
     // One member, where it does not matter whether it is defined.
-    template <class M>
-    M Look(M T::*member) const
+    template <class M, std::same_as<T> S>
+    M Look(M S::*member) const
     {
         M value;
         std::memcpy(&value, memory->Checked(At(member), 1, sizeof(M), Access::Look), sizeof(M));
         return value;
     }
-    template <class M>
-    void Set(M T::*member, const M& value) const
+    template <class M, std::same_as<T> S>
+    void Set(M S::*member, const M& value) const
     {
         memory->Write<M>(At(member), value);
     }

@@ -1,0 +1,121 @@
+// Snapshots of processes and modules.
+#include "tools/runner/bridges/Bridges.h"
+#include "tools/runner/bridges/Host.h"
+
+namespace runner {
+
+namespace {
+
+struct ModuleEntry
+{
+    Word size;
+    Word module;
+    Word process;
+    Word globalUses;
+    Word processUses;
+    Word base;
+    Word baseSize;
+    Word handle;
+    char16_t name[MAX_PATH];
+    char16_t path[MAX_PATH];
+    Word flags;
+};
+static_assert(sizeof(ModuleEntry) == 1076);
+
+} // namespace
+
+using NextProcess = BOOL(WINAPI*)(HANDLE, PROCESSENTRY32*);
+using NextModule = BOOL(WINAPI*)(HANDLE, MODULEENTRY32*);
+
+static HANDLE SnapshotArgument(Call& call)
+{
+    return ObjectArgument<HANDLE>(call, 0, CookieKind::Snapshot);
+}
+
+// Both sides have it in the same form: there are no pointers in it.
+static Word WalkProcesses(Call& call, NextProcess next)
+{
+    static_assert(sizeof(PROCESSENTRY32) == 564);
+    const auto record = call.RecordAt<PROCESSENTRY32>(1);
+    NeedSize(call, record.Get(&PROCESSENTRY32::dwSize), sizeof(PROCESSENTRY32));
+    PROCESSENTRY32 entry = {};
+    entry.dwSize = sizeof(entry);
+    const BOOL result = next(SnapshotArgument(call), &entry);
+    if (result) {
+        record.SetAll(entry);
+    }
+    return static_cast<Word>(result);
+}
+
+static Word DoProcessFirst(Call& call)
+{
+    return WalkProcesses(call, Process32First);
+}
+
+static Word DoProcessNext(Call& call)
+{
+    return WalkProcesses(call, Process32Next);
+}
+
+static Word WalkModules(Call& call, NextModule next)
+{
+    const auto record = call.RecordAt<ModuleEntry>(1);
+    NeedSize(call, record.Get(&ModuleEntry::size), sizeof(ModuleEntry));
+    MODULEENTRY32 module = {};
+    module.dwSize = sizeof(module);
+    const BOOL result = next(SnapshotArgument(call), &module);
+    if (result) {
+        ModuleEntry entry = {};
+        entry.size = sizeof(entry);
+        entry.module = module.th32ModuleID;
+        entry.process = module.th32ProcessID;
+        entry.globalUses = module.GlblcntUsage;
+        entry.processUses = module.ProccntUsage;
+        entry.base = WordOf(module.modBaseAddr);
+        entry.baseSize = module.modBaseSize;
+        entry.handle = WordOf(module.hModule);
+        std::memcpy(entry.name, module.szModule, sizeof entry.name);
+        std::memcpy(entry.path, module.szExePath, sizeof entry.path);
+        entry.flags = module.dwFlags;
+        record.SetAll(entry);
+    }
+    return static_cast<Word>(result);
+}
+
+static Word DoModuleFirst(Call& call)
+{
+    return WalkModules(call, Module32First);
+}
+
+static Word DoModuleNext(Call& call)
+{
+    return WalkModules(call, Module32Next);
+}
+
+static Word DoCreateSnapshot(Call& call)
+{
+    return CookieOf(call, CookieKind::Snapshot, CreateToolhelp32Snapshot(call.Argument(0), call.Argument(1)));
+}
+
+static Word DoCloseSnapshot(Call& call)
+{
+    const BOOL closed = CloseToolhelp32Snapshot(SnapshotArgument(call));
+    call.guest.cookies.Forget(CookieKind::Snapshot, call.Argument(0));
+    return static_cast<Word>(closed);
+}
+
+static constexpr Bridge bridges[] = {
+    {"CloseToolhelp32Snapshot", DoCloseSnapshot},
+    {"CreateToolhelp32Snapshot", DoCreateSnapshot},
+    {"Module32First", DoModuleFirst},
+    {"Module32Next", DoModuleNext},
+    {"Process32First", DoProcessFirst},
+    {"Process32Next", DoProcessNext},
+};
+
+Bridges ToolhelpBridges()
+{
+    return bridges;
+}
+
+} // namespace runner

@@ -78,6 +78,15 @@ TEST(BranchTest, WildJumpsAreFound)
     EXPECT_EQ(JumpTo(Guest::code + 2).kind, FindingKind::Unaligned);
 }
 
+TEST(BranchTest, CallsThatLeadNowhereAreNoCallers)
+{
+    Guest guest;
+    const Finding finding = FindingOf([&guest] { guest.Run({0xE1A0E00F, 0xE12FFF15}); });
+    EXPECT_EQ(finding.kind, FindingKind::Unmapped);
+    EXPECT_EQ(finding.place, Guest::code + 4);
+    EXPECT_TRUE(finding.callers.empty());
+}
+
 TEST(BranchTest, CallersAreKnown)
 {
     Guest guest;

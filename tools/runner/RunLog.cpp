@@ -58,7 +58,7 @@ void RunLog::WriteSummary(Word exitCode)
     const GuestHeap& heap = guest->machine.heap;
     Write("end: code " + std::to_string(exitCode) + ", " + std::to_string(guest->machine.processor.Count()) +
           " instructions, " + std::to_string(guest->counts.ImportCalls()) + " calls of imports, stack " +
-          std::to_string(guest->machine.layout.stackTop - guest->machine.memory.LowestStackPage()) +
+          std::to_string(guest->machine.layout.stackTop - guest->machine.memory.LowestStackPointer()) +
           " bytes");
     Write("heap: " + std::to_string(heap.LiveBlocks()) + " blocks of " + std::to_string(heap.LiveBytes()) +
           " bytes are left, at most " + std::to_string(heap.MostBytes()) + " bytes, " +

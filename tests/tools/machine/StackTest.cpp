@@ -15,6 +15,13 @@ TEST(StackTest, GrowsPageByPage)
     EXPECT_EQ(guest.machine.memory.LowestStackPage(), Guest::stackTop - 0x2000);
 }
 
+TEST(StackTest, DeepestPlaceIsKept)
+{
+    Guest guest;
+    guest.Run({0xE24DDD06, 0xE28DDD06, 0xE92D0030, 0xE8BD0030});
+    EXPECT_EQ(guest.machine.memory.LowestStackPointer(), Guest::stackTop - 0x180);
+}
+
 TEST(StackTest, EndsWithItsReserve)
 {
     Guest guest;
@@ -42,6 +49,7 @@ TEST(StackTest, PointerStaysInTheStack)
     ExpectFinding(FindingKind::StackOverflow, [&guest] { guest.Run({0xE24DD902}); });
     ExpectFinding(FindingKind::StackOverflow, [&guest] { guest.Run({0xE28DD004}); });
     ExpectFinding(FindingKind::StackOverflow, [&guest] { guest.Run({0xE3A0D000}); });
+    ExpectFinding(FindingKind::Unaligned, [&guest] { guest.Run({0xE24DD006}); });
 }
 
 TEST(StackTest, NothingIsBelowThePointer)

@@ -66,6 +66,8 @@ static Symbols Sample()
     ElfBytes file;
     file.Add("_ZN5CList7RefreshEv", 0x15100, 0x40, function);
     file.Add("ProgramEntry", 0x15000, 0, function);
+    file.Add("_Znwj", 0x15200, 8, function);
+    file.Add("_Znaj", 0x15208, 8, function);
     file.Add("table", 0x15120, 4, object);
     file.Add("elsewhere", 0x15130, 4, function, 0);
     return Symbols(file.Whole());
@@ -88,6 +90,15 @@ TEST(SymbolsTest, NothingIsNamedOutside)
     EXPECT_EQ(symbols.NameOf(0x14FFC), "");
     EXPECT_EQ(symbols.FunctionOf(0), "");
     EXPECT_EQ(Symbols().NameOf(0x15100), "");
+}
+
+TEST(SymbolsTest, OperatorsThatAllocate)
+{
+    const Symbols symbols = Sample();
+    EXPECT_TRUE(symbols.IsInOperatorNew(0x15204));
+    EXPECT_TRUE(symbols.IsInOperatorNew(0x15208));
+    EXPECT_FALSE(symbols.IsInOperatorNew(0x15210));
+    EXPECT_FALSE(symbols.IsInOperatorNew(0x15100));
 }
 
 TEST(SymbolsTest, AddressOfAName)

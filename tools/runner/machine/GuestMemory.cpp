@@ -59,6 +59,7 @@ void GuestMemory::SetStack(Address top, Word reserve)
     stackTop = top;
     stackLow = top - reserve;
     stackPointer = top;
+    lowestStackPointer = top;
     lowestStackPage = top - pageSize;
     Map(stackLow, reserve, NoAccess, Content::Undefined);
     pages[lowestStackPage / pageSize] = CanRead | CanWrite;
@@ -70,6 +71,10 @@ void GuestMemory::MoveStackPointer(Address pointer)
     if (pointer - stackLow > stackTop - stackLow) {
         Report(FindingKind::StackOverflow, Access::None, pointer, 0);
     }
+    if (pointer % sizeof(Word) != 0) {
+        Report(FindingKind::Unaligned, Access::None, pointer, 0);
+    }
+    lowestStackPointer = std::min(lowestStackPointer, pointer);
     if (pointer > stackPointer) {
         MarkUndefined(stackPointer, pointer - stackPointer);
     }

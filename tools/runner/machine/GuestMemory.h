@@ -72,6 +72,7 @@ class GuestMemory
     Address stackLow = 0; // what the header reserves; only the part above the guard page is mapped
     Address stackTop = 0;
     Address stackPointer = 0;
+    Address lowestStackPointer = 0;
     Address lowestStackPage = 0;
 
   public:
@@ -92,6 +93,7 @@ class GuestMemory
     void SetStack(Address top, Word reserve);
     // What a rising pointer leaves behind counts as never written.
     void MoveStackPointer(Address pointer);
+    Address LowestStackPointer() const { return lowestStackPointer; }
     Address LowestStackPage() const { return lowestStackPage; }
     Address StackLow() const { return stackLow; }
 

@@ -18,12 +18,9 @@ void Machine::Load(const ArmImage& image, Word firstTrap)
 
 Address Machine::Allocator(const Symbols& symbols) const
 {
-    const auto isNew = [&symbols](Address place) {
-        return symbols.FunctionOf(place).starts_with("operator new");
-    };
     Address allocator = processor.Place();
     for (const Address caller : processor.Callers()) {
-        if (!isNew(allocator)) {
+        if (!symbols.IsInOperatorNew(allocator)) {
             break;
         }
         allocator = caller;

@@ -90,6 +90,13 @@ std::string Symbols::NameOf(Address address) const
     return Readable(found->second.name) + offset;
 }
 
+bool Symbols::IsInOperatorNew(Address address) const
+{
+    const auto found = Holding(address);
+    return found != functions.end() &&
+           (found->second.name.starts_with("_Znw") || found->second.name.starts_with("_Zna"));
+}
+
 Address Symbols::AddressOf(const std::string& name) const
 {
     for (const auto& [address, function] : functions) {

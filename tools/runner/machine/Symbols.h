@@ -29,6 +29,8 @@ class Symbols
     std::string NameOf(Address address) const;
     // The same without the offset.
     std::string FunctionOf(Address address) const;
+    // Whether it is in the operator that passes a wish for memory on, of one object or of many.
+    bool IsInOperatorNew(Address address) const;
     // Where a function of this name, as the linker knows it, begins; 0 when there is none.
     Address AddressOf(const std::string& name) const;
 

@@ -34,11 +34,6 @@ void RunLog::Take(const Finding& finding)
     const Symbols* symbols = guest ? &guest->symbols : nullptr;
     Tell("FINDING: " + finding.Line(symbols) +
          (guest ? " [while serving " + guest->CurrentImport() + "]" : ""));
-    for (const Address caller : finding.callers) {
-        char address[16];
-        std::snprintf(address, sizeof address, "%08x", static_cast<unsigned>(caller));
-        Tell(std::string("  called from ") + address + " " + (symbols ? symbols->NameOf(caller) : ""));
-    }
     TerminateProcess(GetCurrentProcess(), findingExitCode);
     for (;;) {
         Sleep(INFINITE);

@@ -21,20 +21,6 @@ static std::wstring OwnPath()
     return std::wstring(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
 }
 
-// What stands behind the program's name, as a device hands it over.
-static std::wstring CommandLine()
-{
-    const wchar_t* place = GetCommandLineW();
-    bool isQuoted = false;
-    for (; *place && (isQuoted || *place != L' '); place++) {
-        isQuoted = *place == L'"' ? !isQuoted : isQuoted;
-    }
-    while (*place == L' ') {
-        place++;
-    }
-    return place;
-}
-
 // A fault in the runner or in a library of the host's is no finding about the guest; it ends the run all the
 // same, with what was being served.
 static LONG CALLBACK HostFault(EXCEPTION_POINTERS* fault)
@@ -59,7 +45,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
     const std::wstring without = Variable(L"QV_RUNNER_WITHOUT");
     runner::DoWithout(std::string(without.begin(), without.end()));
     try {
-        runner::RunProcess(log, name + L".arm", name + L".elf", CommandLine(),
+        // The substitute's: without the program's name, as a device hands it over.
+        runner::RunProcess(log, name + L".arm", name + L".elf", GetCommandLineW(),
                            !Variable(L"QV_RUNNER_TRACE").empty());
     } catch (const std::exception& error) {
         log.Tell(std::string("The device's executable Quorvane.arm ") + error.what());

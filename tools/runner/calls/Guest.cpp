@@ -18,7 +18,8 @@ static std::string Hex(Word value)
     return text;
 }
 
-Guest::Guest(FindingSink& findings) : machine(findings), counts(machine.processor)
+Guest::Guest(FindingSink& findings, const Layout& layout)
+    : machine(findings, layout), counts(machine.processor)
 {
     // Trap 0 is where calls into the guest return to.
     traps.push_back({"return", {"return", ""}, nullptr, 0});

@@ -50,7 +50,7 @@ class Guest
     std::uint64_t hostResources = 0; // the module that has the guest's resources on the host
     Journal* trace = nullptr;        // null: calls are not told
 
-    explicit Guest(FindingSink& findings);
+    explicit Guest(FindingSink& findings, const Layout& layout = {});
     Guest(const Guest&) = delete;
     Guest& operator=(const Guest&) = delete;
 

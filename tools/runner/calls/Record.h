@@ -5,6 +5,7 @@
 
 #include <concepts>
 #include <cstddef>
+#include <type_traits>
 
 namespace runner {
 
@@ -45,7 +46,7 @@ class Record
         return value;
     }
     template <class M, std::same_as<T> S>
-    void Set(M S::*member, const M& value) const
+    void Set(M S::*member, const std::type_identity_t<M>& value) const
     {
         memory->Write<M>(At(member), value);
     }

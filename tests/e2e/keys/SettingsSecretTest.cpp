@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -21,9 +22,16 @@ static std::string Utf16(const std::string& text)
     return bytes;
 }
 
+// The program's code: beside the runner, where that stands in the executable's place.
+static std::wstring CodePath()
+{
+    const std::wstring ofDevice = rig::ProgramFolder() + L"\\Quorvane.arm";
+    return std::filesystem::exists(ofDevice) ? ofDevice : rig::ProgramFolder() + L"\\Quorvane.exe";
+}
+
 TEST(SettingsSecretTest, NeitherWideNorNarrow)
 {
-    const std::string program = FileBytes(rig::ProgramFolder() + L"\\Quorvane.exe");
+    const std::string program = FileBytes(CodePath());
     ASSERT_NE(program.find(Utf16("HomeKeyCommand")), std::string::npos) << "it cannot be searched so";
     // A copy that the compiler has inlined leaves pieces only.
     for (const std::string text : {"HomeKeySetting", "Software\\Quorvane", "e\\Ho"}) {

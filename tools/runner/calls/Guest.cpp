@@ -63,7 +63,6 @@ Word Guest::CallBack(Address function, Word a, Word b, Word c, Word d)
     Processor& processor = machine.processor;
     const Registers saved = processor.State();
     const bool wasOdd = isStackOdd;
-    isStackOdd = !isStackOdd;
     LowerStack(0);
     const Word arguments[] = {a, b, c, d};
     for (unsigned i = 0; i < 4; i++) {

@@ -11,7 +11,7 @@
 
 namespace runner {
 
-static RunLog* theLog = nullptr;
+static RunLog* runLog = nullptr;
 
 static std::string NarrowPath(const std::wstring& path)
 {
@@ -44,7 +44,7 @@ static Address PlaceCommandLine(Machine& machine, const std::wstring& text)
 void RunProcess(RunLog& log, const std::wstring& imagePath, const std::wstring& symbolPath,
                 const std::wstring& commandLine, bool isTraced)
 {
-    theLog = &log;
+    runLog = &log;
     const ArmImage image(ReadInputFile(NarrowPath(imagePath)));
     // It lives as long as the process does: windows call back until the very end.
     auto& guest = *new Guest(log);
@@ -69,7 +69,7 @@ void RunProcess(RunLog& log, const std::wstring& imagePath, const std::wstring& 
 
 void EndProcess(Word exitCode)
 {
-    theLog->WriteSummary(exitCode);
+    runLog->WriteSummary(exitCode);
     TerminateProcess(reinterpret_cast<HANDLE>(-1), exitCode);
     for (;;) {
         Sleep(INFINITE);

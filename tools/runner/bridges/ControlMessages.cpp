@@ -16,7 +16,7 @@ static Word GetSelection(const Outgoing& out)
     return static_cast<Word>(out.DeliverWith(reinterpret_cast<WPARAM>(begin), reinterpret_cast<LPARAM>(end)));
 }
 
-static constexpr MessageBridge bridges[] = {
+static constexpr MessageBridge controlMessageRows[] = {
     {CB_ADDSTRING, WithText},    {CB_FINDSTRINGEXACT, WithText}, {CB_INSERTSTRING, WithText},
     {CB_SELECTSTRING, WithText}, {EM_GETSEL, GetSelection},      {EM_REPLACESEL, WithText},
     {LB_ADDSTRING, WithText},    {LB_INSERTSTRING, WithText},
@@ -24,7 +24,7 @@ static constexpr MessageBridge bridges[] = {
 
 MessageBridges ControlMessages()
 {
-    return bridges;
+    return controlMessageRows;
 }
 
 } // namespace runner

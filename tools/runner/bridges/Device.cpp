@@ -93,7 +93,7 @@ static Word DoChangeDisplay(Call& call)
     return static_cast<Word>(result);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge deviceRows[] = {
     {"ChangeDisplaySettingsEx", DoChangeDisplay},
     {"FindFirstFlashCard", DoFirstCard},
     {"FindNextFlashCard", DoNextCard},
@@ -107,7 +107,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges DeviceBridges()
 {
-    return bridges;
+    return deviceRows;
 }
 
 } // namespace runner

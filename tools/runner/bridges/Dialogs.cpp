@@ -20,7 +20,7 @@ static Word DoCreateDialog(Call& call)
     return WordOf(dialog);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge dialogRows[] = {
     {"CreateDialogIndirectParamW", DoCreateDialog},
     {"EndDialog", "u hi"},
     {"MessageBoxW", "u httu"},
@@ -28,7 +28,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges DialogBridges()
 {
-    return bridges;
+    return dialogRows;
 }
 
 } // namespace runner

@@ -80,7 +80,7 @@ static Word DoFindClose(Call& call)
     return static_cast<Word>(closed);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge fileRows[] = {
     {"CloseHandle", "u h"},
     {"CreateFileW", "h tuu p12 uuh"},
     {"FindClose", DoFindClose},
@@ -95,7 +95,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges FileBridges()
 {
-    return bridges;
+    return fileRows;
 }
 
 } // namespace runner

@@ -97,13 +97,13 @@ static Word DoFormat(Call& call)
     return static_cast<Word>(length);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge formattingRows[] = {
     {"_vsnwprintf", DoFormat},
 };
 
 Bridges FormattingBridges()
 {
-    return bridges;
+    return formattingRows;
 }
 
 } // namespace runner

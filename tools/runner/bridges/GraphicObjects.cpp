@@ -85,7 +85,7 @@ static Word DoCreateFont(Call& call)
     return WordOf(CreateFontIndirectW(&font));
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge graphicObjectRows[] = {
     {"CreateCompatibleBitmap", "h hii"},   {"CreateDIBSection", DoCreateDibSection},
     {"CreateFontIndirectW", DoCreateFont}, {"DeleteObject", "u h"},
     {"GetObjectW", DoGetObject},           {"GetStockObject", "h i"},
@@ -93,7 +93,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges GraphicObjectBridges()
 {
-    return bridges;
+    return graphicObjectRows;
 }
 
 } // namespace runner

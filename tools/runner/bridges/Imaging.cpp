@@ -74,7 +74,7 @@ static Word DoCreateInstance(Call& call)
     return static_cast<Word>(result);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge imagingRows[] = {
     {"CoCreateInstance", DoCreateInstance},
     {"CoInitializeEx", "d uu"},
     {"CoUninitialize", "v"},
@@ -82,7 +82,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges ImagingBridges()
 {
-    return bridges;
+    return imagingRows;
 }
 
 } // namespace runner

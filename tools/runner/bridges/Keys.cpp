@@ -18,7 +18,7 @@ static Word DoGetAsyncKeyState(Call& call)
     return static_cast<Word>(GetAsyncKeyState(call.Signed(0)));
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge keyRows[] = {
     {"GetAsyncKeyState", DoGetAsyncKeyState},
     {"IsClipboardFormatAvailable", "u u"},
     {"KillTimer", "u hu"},
@@ -31,7 +31,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges KeyBridges()
 {
-    return bridges;
+    return keyRows;
 }
 
 } // namespace runner

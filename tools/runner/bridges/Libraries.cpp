@@ -66,7 +66,7 @@ static Word DoInitCommonControls(Call& call)
     return static_cast<Word>(InitCommonControlsEx(&classes));
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge libraryRows[] = {
     {"FreeLibrary", DoFreeLibrary},
     {"GetProcAddressW", DoGetProcAddress},
     {"InitCommonControlsEx", DoInitCommonControls},
@@ -77,7 +77,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges LibraryBridges()
 {
-    return bridges;
+    return libraryRows;
 }
 
 } // namespace runner

@@ -36,7 +36,7 @@ static_assert(sizeof(ListColumn) == 32);
 
 // Of the device; the desktop has more.
 static constexpr Word columnMask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT | LVCF_SUBITEM | LVCF_IMAGE | LVCF_ORDER;
-static constexpr Word itemMask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM | LVIF_STATE | LVIF_INDENT;
+static constexpr Word listItemMask = LVIF_TEXT | LVIF_IMAGE | LVIF_PARAM | LVIF_STATE | LVIF_INDENT;
 
 static Word SetItemState(const Outgoing& out)
 {
@@ -53,7 +53,7 @@ static Word SetItem(const Outgoing& out)
     const auto record = out.RecordAtLParam<ListItem>();
     LVITEMW item = {};
     item.mask = record.Get(&ListItem::mask);
-    if ((item.mask & ~itemMask) != 0) {
+    if ((item.mask & ~listItemMask) != 0) {
         out.call.guest.Misuse("a mask of a list's item that the device does not have", item.mask);
     }
     item.iItem = record.Get(&ListItem::item);
@@ -118,14 +118,14 @@ static Word GetItemRect(const Outgoing& out)
     return result;
 }
 
-static constexpr MessageBridge bridges[] = {
+static constexpr MessageBridge listViewMessageRows[] = {
     {LVM_GETITEMRECT, GetItemRect}, {LVM_INSERTCOLUMNW, SetColumn},   {LVM_INSERTITEMW, SetItem},
     {LVM_SETCOLUMNW, SetColumn},    {LVM_SETITEMSTATE, SetItemState}, {LVM_SETITEMW, SetItem},
 };
 
 MessageBridges ListViewMessages()
 {
-    return bridges;
+    return listViewMessageRows;
 }
 
 } // namespace runner

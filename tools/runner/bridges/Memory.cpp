@@ -154,7 +154,7 @@ static Word DoQsort(Call& call)
     return call.NoResult();
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge memoryRows[] = {
     {"LocalAlloc", DoLocalAlloc}, {"LocalFree", DoLocalFree}, {"free", DoFree},
     {"malloc", DoMalloc},         {"memcmp", DoMemcmp},       {"memcpy", DoMemcpy},
     {"memmove", DoMemmove},       {"memset", DoMemset},       {"qsort", DoQsort},
@@ -162,7 +162,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges MemoryBridges()
 {
-    return bridges;
+    return memoryRows;
 }
 
 } // namespace runner

@@ -13,7 +13,7 @@ static Word DoTrackPopupMenu(Call& call)
                                               call.Signed(3), HandleAt<HWND>(call, 4), nullptr));
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge menuRows[] = {
     {"AppendMenuW", "u huht"},
     {"CreatePopupMenu", "h"},
     {"DestroyMenu", "u h"},
@@ -22,7 +22,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges MenuBridges()
 {
-    return bridges;
+    return menuRows;
 }
 
 } // namespace runner

@@ -122,7 +122,7 @@ static Word DoCallWindowProc(Call& call)
                           call.Argument(3), call.Argument(4)});
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge queueRows[] = {
     {"CallWindowProcW", DoCallWindowProc},
     {"DefWindowProcW", DoDefWindowProc},
     {"DestroyAcceleratorTable", "u h"},
@@ -138,7 +138,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges QueueBridges()
 {
-    return bridges;
+    return queueRows;
 }
 
 } // namespace runner

@@ -42,7 +42,7 @@ static Word DoEndPaint(Call& call)
     return static_cast<Word>(EndPaint(HandleAt<HWND>(call, 0), &paint));
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge paintingRows[] = {
     {"BeginPaint", DoBeginPaint},  {"BitBlt", "u hiiii hiiu"},  {"CreateCompatibleDC", "h h"},
     {"CreatePen", "h iiu"},        {"DeleteDC", "u h"},         {"DrawIconEx", "u hii hii uhu"},
     {"EndPaint", DoEndPaint},      {"FillRect", "u hp16r"},     {"GetDC", "h h"},
@@ -55,7 +55,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges PaintingBridges()
 {
-    return bridges;
+    return paintingRows;
 }
 
 } // namespace runner

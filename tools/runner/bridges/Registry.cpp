@@ -87,7 +87,7 @@ static Word DoEnumKey(Call& call)
     return static_cast<Word>(result);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge registryRows[] = {
     {"RegCloseKey", DoCloseKey},
     {"RegCreateKeyExW", DoCreateKey},
     {"RegEnumKeyExW", DoEnumKey},
@@ -99,7 +99,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges RegistryBridges()
 {
-    return bridges;
+    return registryRows;
 }
 
 } // namespace runner

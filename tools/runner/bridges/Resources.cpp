@@ -24,14 +24,14 @@ static Word DoLoadResource(Call& call)
     return entry ? *entry + call.guest.image : 0;
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge resourceRows[] = {
     {"FindResourceW", DoFindResource}, {"LoadAcceleratorsW", "h ms"}, {"LoadIconW", "h ms"},
     {"LoadResource", DoLoadResource},  {"LoadStringW", "u muTi"},
 };
 
 Bridges ResourceBridges()
 {
-    return bridges;
+    return resourceRows;
 }
 
 } // namespace runner

@@ -118,7 +118,7 @@ static Word DoGetMalloc(Call& call)
     return static_cast<Word>(result);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge shellRows[] = {
     {"ImageList_Draw", "u oIihiiu"},
     {"ImageList_GetIconSize", "d oIq4q4"},
     {"SHGetFileInfo", DoFileInfo},
@@ -131,7 +131,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges ShellBridges()
 {
-    return bridges;
+    return shellRows;
 }
 
 } // namespace runner

@@ -143,7 +143,7 @@ static Word DoSendBack(Call& call)
     return call.NoResult();
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge shellWindowRows[] = {
     {"SHCreateMenuBar", DoCreateMenuBar},
     {"SHHandleWMActivate", DoHandleActivate},
     {"SHHandleWMSettingChange", DoHandleSettingChange},
@@ -154,7 +154,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges ShellWindowBridges()
 {
-    return bridges;
+    return shellWindowRows;
 }
 
 } // namespace runner

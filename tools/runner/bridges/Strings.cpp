@@ -63,7 +63,7 @@ static Word DoMultiByteToWideChar(Call& call)
     return static_cast<Word>(written);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge stringRows[] = {
     {"MultiByteToWideChar", DoMultiByteToWideChar},
     {"_wcsicmp", "d tt"},
     {"_wcslwr", DoWcslwr},
@@ -75,7 +75,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges StringBridges()
 {
-    return bridges;
+    return stringRows;
 }
 
 } // namespace runner

@@ -97,7 +97,7 @@ static Word DoSystemParameters(Call& call)
     return static_cast<Word>(result);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge systemRows[] = {
     {"GetDeviceCaps", "d hi"},
     {"GetLastError", "d"},
     {"GetModuleFileNameW", DoGetModuleFileName},
@@ -110,7 +110,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges SystemBridges()
 {
-    return bridges;
+    return systemRows;
 }
 
 } // namespace runner

@@ -62,7 +62,7 @@ static Word DoGetTextExtent(Call& call)
     return static_cast<Word>(result);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge textPaintingRows[] = {
     {"DrawTextW", DoDrawText},
     {"ExtTextOutW", DoExtTextOut},
     {"GetTextExtentExPointW", DoGetTextExtent},
@@ -71,7 +71,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges TextPaintingBridges()
 {
-    return bridges;
+    return textPaintingRows;
 }
 
 } // namespace runner

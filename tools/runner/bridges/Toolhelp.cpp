@@ -1,6 +1,6 @@
 // Snapshots of processes and modules.
 #include "tools/runner/bridges/Bridges.h"
-#include "tools/runner/bridges/Host.h"
+#include "tools/runner/bridges/OwnHeap.h"
 
 namespace runner {
 
@@ -27,7 +27,7 @@ static_assert(sizeof(ModuleEntry) == 1076);
 using NextProcess = BOOL(WINAPI*)(HANDLE, PROCESSENTRY32*);
 using NextModule = BOOL(WINAPI*)(HANDLE, MODULEENTRY32*);
 
-static HANDLE SnapshotArgument(Call& call)
+static HANDLE ProcessSnapshotArgument(Call& call)
 {
     return ObjectArgument<HANDLE>(call, 0, CookieKind::Snapshot);
 }
@@ -40,7 +40,7 @@ static Word WalkProcesses(Call& call, NextProcess next)
     NeedSize(call, record.Get(&PROCESSENTRY32::dwSize), sizeof(PROCESSENTRY32));
     PROCESSENTRY32 entry = {};
     entry.dwSize = sizeof(entry);
-    const BOOL result = next(SnapshotArgument(call), &entry);
+    const BOOL result = next(ProcessSnapshotArgument(call), &entry);
     if (result) {
         record.SetAll(entry);
     }
@@ -63,7 +63,7 @@ static Word WalkModules(Call& call, NextModule next)
     NeedSize(call, record.Get(&ModuleEntry::size), sizeof(ModuleEntry));
     MODULEENTRY32 module = {};
     module.dwSize = sizeof(module);
-    const BOOL result = next(SnapshotArgument(call), &module);
+    const BOOL result = next(ProcessSnapshotArgument(call), &module);
     if (result) {
         ModuleEntry entry = {};
         entry.size = sizeof(entry);
@@ -94,17 +94,25 @@ static Word DoModuleNext(Call& call)
 
 static Word DoCreateSnapshot(Call& call)
 {
-    return CookieOf(call, CookieKind::Snapshot, CreateToolhelp32Snapshot(call.Argument(0), call.Argument(1)));
+    const Word flags = call.Argument(0);
+    const Word process = call.Argument(1);
+    const HANDLE snapshot = CreateToolhelp32Snapshot(flags, process);
+    const Word cookie = CookieOf(call, CookieKind::Snapshot, snapshot);
+    if (snapshot != INVALID_HANDLE_VALUE && OwnHeap::IsMeant(flags, process)) {
+        OwnHeap::Instance().Open(cookie);
+    }
+    return cookie;
 }
 
 static Word DoCloseSnapshot(Call& call)
 {
-    const BOOL closed = CloseToolhelp32Snapshot(SnapshotArgument(call));
+    const BOOL closed = CloseToolhelp32Snapshot(ProcessSnapshotArgument(call));
+    OwnHeap::Instance().Close(call.Argument(0));
     call.guest.cookies.Forget(CookieKind::Snapshot, call.Argument(0));
     return static_cast<Word>(closed);
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge toolhelpRows[] = {
     {"CloseToolhelp32Snapshot", DoCloseSnapshot},
     {"CreateToolhelp32Snapshot", DoCreateSnapshot},
     {"Module32First", DoModuleFirst},
@@ -115,7 +123,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges ToolhelpBridges()
 {
-    return bridges;
+    return toolhelpRows;
 }
 
 } // namespace runner

@@ -30,7 +30,7 @@ static_assert(sizeof(TreeInsertion) == 48);
 
 } // namespace
 
-static constexpr Word itemMask =
+static constexpr Word treeItemMask =
     TVIF_TEXT | TVIF_IMAGE | TVIF_PARAM | TVIF_STATE | TVIF_HANDLE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN;
 
 static HTREEITEM ItemOf(const Outgoing& out, Word cookie)
@@ -46,7 +46,7 @@ static Word CookieFor(const Outgoing& out, LRESULT item)
 
 static UINT MaskOf(const Outgoing& out, Word mask)
 {
-    if ((mask & ~itemMask) != 0) {
+    if ((mask & ~treeItemMask) != 0) {
         out.call.guest.Misuse("a mask of a tree's item that the device does not have", mask);
     }
     return mask;
@@ -122,7 +122,7 @@ static Word GetNextItem(const Outgoing& out)
     return CookieFor(out, out.DeliverWith(out.wParam, reinterpret_cast<LPARAM>(ItemOf(out, out.lParam))));
 }
 
-static constexpr MessageBridge bridges[] = {
+static constexpr MessageBridge treeViewMessageRows[] = {
     {TVM_DELETEITEM, WithItem}, {TVM_ENSUREVISIBLE, WithItem},  {TVM_EXPAND, WithItem},
     {TVM_GETITEMW, GetItem},    {TVM_GETNEXTITEM, GetNextItem}, {TVM_INSERTITEMW, Insert},
     {TVM_SELECTITEM, WithItem},
@@ -130,7 +130,7 @@ static constexpr MessageBridge bridges[] = {
 
 MessageBridges TreeViewMessages()
 {
-    return bridges;
+    return treeViewMessageRows;
 }
 
 } // namespace runner

@@ -41,7 +41,7 @@ static Word SendGetText(const Outgoing& out)
     return length;
 }
 
-static constexpr MessageBridge bridges[] = {
+static constexpr MessageBridge windowMessageRows[] = {
     {WM_COPYDATA, SendCopyData},
     {WM_DRAWITEM, SendDrawItem},
     {WM_GETTEXT, SendGetText},
@@ -50,7 +50,7 @@ static constexpr MessageBridge bridges[] = {
 
 MessageBridges WindowMessages()
 {
-    return bridges;
+    return windowMessageRows;
 }
 
 } // namespace runner

@@ -130,7 +130,7 @@ static Word DoMapWindowPoints(Call& call)
     return static_cast<Word>(MapWindowPoints(HandleAt<HWND>(call, 0), HandleAt<HWND>(call, 1), place, count));
 }
 
-static constexpr Bridge bridges[] = {
+static constexpr Bridge windowRows[] = {
     {"CreateWindowExW", DoCreateWindow},
     {"DestroyWindow", "u h"},
     {"EnableWindow", "u hi"},
@@ -163,7 +163,7 @@ static constexpr Bridge bridges[] = {
 
 Bridges WindowBridges()
 {
-    return bridges;
+    return windowRows;
 }
 
 } // namespace runner

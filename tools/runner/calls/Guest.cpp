@@ -22,12 +22,12 @@ Guest::Guest(FindingSink& findings, const Layout& layout)
     : machine(findings, layout), counts(machine.processor)
 {
     // Trap 0 is where calls into the guest return to.
-    traps.push_back({"return", {"return", ""}, nullptr, 0});
+    traps.push_back({"return", nullptr, nullptr, Form("v"), 0});
 }
 
 Address Guest::AddTrap(const std::string& name, const Bridge& bridge, HostFunction host, std::uint64_t data)
 {
-    traps.push_back({name, bridge, host, data});
+    traps.push_back({name, bridge.handler, host, Form(bridge.form ? bridge.form : "v"), data});
     return TrapAddress(static_cast<Word>(traps.size() - 1));
 }
 
@@ -105,8 +105,7 @@ Address Guest::Serve(Word number)
     if (number >= traps.size()) {
         Misuse("a jump to an address that is no import's", TrapAddress(number));
     }
-    // By value: a handler may add traps.
-    const Trap trap = traps[number];
+    const Trap& trap = traps[number];
     counts.AddImport(trap.name);
     running.push_back(number);
     if (trace) {
@@ -116,8 +115,7 @@ Address Guest::Serve(Word number)
                      symbols.NameOf(machine.processor.Place()));
     }
     Call call(*this, trap.data);
-    const Word result =
-        trap.bridge.handler ? trap.bridge.handler(call) : CallPlain(call, trap.bridge, trap.host);
+    const Word result = trap.handler ? trap.handler(call) : CallPlain(call, trap.form, trap.host);
     running.pop_back();
     const Address next = machine.processor.Answer(result);
     if (call.HasNoResult()) {

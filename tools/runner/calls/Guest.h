@@ -3,10 +3,12 @@
 
 #include "tools/runner/calls/Bridge.h"
 #include "tools/runner/calls/Cookies.h"
+#include "tools/runner/calls/Form.h"
 #include "tools/runner/machine/Counts.h"
 #include "tools/runner/machine/Machine.h"
 #include "tools/runner/machine/Symbols.h"
 
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -33,11 +35,12 @@ class Guest
     struct Trap
     {
         std::string name;
-        Bridge bridge;
-        HostFunction host; // of a plain function
+        Bridge::Handler handler; // null for a plain function
+        HostFunction host;       // of a plain function, and its form
+        Form form;
         std::uint64_t data;
     };
-    std::vector<Trap> traps;
+    std::deque<Trap> traps;    // which stay where they are when more are added
     std::vector<Word> running; // the traps that are being served, the last one innermost
     bool isStackOdd = false;
 

@@ -2,7 +2,6 @@
 #include "tools/runner/calls/PlainCall.h"
 
 #include "tools/runner/calls/Call.h"
-#include "tools/runner/calls/Form.h"
 
 namespace runner {
 
@@ -96,9 +95,8 @@ static void MarkResults(Call& call, const Form& form, bool succeeded)
     }
 }
 
-Word CallPlain(Call& call, const Bridge& bridge, Guest::HostFunction function)
+Word CallPlain(Call& call, const Form& form, Guest::HostFunction function)
 {
-    const Form form(bridge.form);
     if (!form.IsGood() || !function) {
         call.guest.Misuse("the runner has no form or no function for it");
     }

@@ -5,7 +5,7 @@
 
 namespace runner {
 
-Word CallPlain(Call& call, const Bridge& bridge, Guest::HostFunction function);
+Word CallPlain(Call& call, const Form& form, Guest::HostFunction function);
 
 // As the host's window manager numbers system colours; the device's indices carry a mark, without which they
 // are reported.

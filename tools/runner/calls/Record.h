@@ -23,8 +23,9 @@ class Record
 
     explicit operator bool() const { return address != 0; }
     Address At() const { return address; }
-    template <class M, std::same_as<T> S>
-    Address At(M S::*member) const
+    template <class M, class S>
+    requires std::same_as<S, T> Address At(M S::*member)
+    const
     {
         alignas(T) static const char room[sizeof(T)] = {};
         const T* const origin = reinterpret_cast<const T*>(room);
@@ -32,20 +33,20 @@ class Record
     }
 
     // One member, which has to be defined.
-    template <class M, std::same_as<T> S>
-    M Get(M S::*member) const
-    {
-        return memory->Read<M>(At(member));
-    }
+    template <class M, class S>
+    requires std::same_as<S, T> M Get(M S::*member)
+    const { return memory->Read<M>(At(member)); }
     // One member, where it does not matter whether it is defined.
-    template <class M, std::same_as<T> S>
-    M Look(M S::*member) const
+    template <class M, class S>
+    requires std::same_as<S, T> M Look(M S::*member)
+    const
     {
         M value;
         std::memcpy(&value, memory->Checked(At(member), 1, sizeof(M), Access::Look), sizeof(M));
         return value;
     }
-    template <class M, std::same_as<T> S>
+    template <class M, class S>
+    requires std::same_as<S, T>
     void Set(M S::*member, const std::type_identity_t<M>& value) const
     {
         memory->Write<M>(At(member), value);

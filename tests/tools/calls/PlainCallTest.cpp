@@ -93,6 +93,7 @@ TEST_F(PlainCallTest, AStructureIsWrittenOnlyBySuccess)
     EXPECT_FALSE(small.Memory().IsDefined(SmallGuest::data + 0x10, 8));
     Call("u q8", SmallGuest::data + 0x10);
     EXPECT_TRUE(small.Memory().IsDefined(SmallGuest::data + 0x10, 8));
+    answer = 0;
     Call("d q8", SmallGuest::data + 0x20);
     EXPECT_TRUE(small.Memory().IsDefined(SmallGuest::data + 0x20, 8));
 }

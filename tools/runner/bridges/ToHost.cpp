@@ -5,7 +5,7 @@
 
 namespace runner {
 
-static constexpr MessageBridges (*subjects[])() = {
+static constexpr MessageBridges (*messageSubjects[])() = {
     ControlMessages,
     ListViewMessages,
     TreeViewMessages,
@@ -14,7 +14,7 @@ static constexpr MessageBridges (*subjects[])() = {
 
 static const MessageBridge* FindMessage(UINT message)
 {
-    for (const auto subject : subjects) {
+    for (const auto subject : messageSubjects) {
         for (const MessageBridge& bridge : subject()) {
             if (bridge.message == message) {
                 return &bridge;

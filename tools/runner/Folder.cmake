@@ -19,3 +19,12 @@ file(CREATE_LINK ${DEVICE}/Quorvane.exe ${FOLDER}/bin/Quorvane.arm COPY_ON_ERROR
 file(CREATE_LINK ${DEVICE}/Quorvane.elf ${FOLDER}/bin/Quorvane.elf COPY_ON_ERROR)
 file(CREATE_LINK ${PC}/bin/profiles ${FOLDER}/bin/profiles SYMBOLIC)
 file(CREATE_LINK ${PC}/wine ${FOLDER}/wine SYMBOLIC)
+
+# Small programs of the tests, each with the runner under its name.
+file(GLOB programs ${DEVICE}/tests/device/bridges/*.elf)
+foreach(elf IN LISTS programs)
+    get_filename_component(name ${elf} NAME_WE)
+    file(CREATE_LINK ${FOLDER}/bin/Quorvane.exe ${FOLDER}/bin/${name}.exe COPY_ON_ERROR)
+    file(CREATE_LINK ${DEVICE}/tests/device/bridges/${name}.exe ${FOLDER}/bin/${name}.arm COPY_ON_ERROR)
+    file(CREATE_LINK ${elf} ${FOLDER}/bin/${name}.elf COPY_ON_ERROR)
+endforeach()

@@ -62,6 +62,9 @@ void RunLog::WriteSummary(Word exitCode)
         Write("  left: " + std::to_string(leak.blocks) + " blocks of " + std::to_string(leak.bytes) +
               " bytes by " + guest->symbols.NameOf(leak.allocatedAt));
     }
+    for (const auto& [kind, count] : guest->cookies.LiveByKind()) {
+        Write("  left: " + std::to_string(count) + " open, a " + NameOf(kind) + " each");
+    }
     for (const auto& [name, sum] : guest->counts.Sections()) {
         Write("  part: " + name + " times " + std::to_string(sum.times) + " instructions " +
               std::to_string(sum.instructions) + " most " + std::to_string(sum.most) + " last " +

@@ -97,12 +97,12 @@ static constexpr Bridge deviceRows[] = {
     {"ChangeDisplaySettingsEx", DoChangeDisplay},
     {"FindFirstFlashCard", DoFirstCard},
     {"FindNextFlashCard", DoNextCard},
-    {"GetExitCodeProcess", "u hq4"},
+    {"GetExitCodeProcess", "u oPq4"},
     {"GetProcessVersion", "d u"},
     {"GetSystemPowerStatusEx", DoPowerStatus},
     {"GlobalMemoryStatus", DoMemoryStatus},
-    {"OpenProcess", "h uiu"},
-    {"WaitForSingleObject", "d hu"},
+    {"OpenProcess", "oP uiu"},
+    {"WaitForSingleObject", "d oPu"},
 };
 
 Bridges DeviceBridges()

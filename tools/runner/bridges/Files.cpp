@@ -7,6 +7,26 @@
 
 namespace runner {
 
+// Files and processes. A snapshot has a function of its own, but is an object of the system's too.
+static CookieKind KindToClose(Call& call)
+{
+    for (const CookieKind kind : {CookieKind::Process, CookieKind::Snapshot}) {
+        const Cookies::State state = call.guest.cookies.Take(kind, call.Argument(0)).state;
+        if (state == Cookies::State::Known || state == Cookies::State::Forgotten) {
+            return kind;
+        }
+    }
+    return CookieKind::File;
+}
+
+static Word DoCloseHandle(Call& call)
+{
+    const CookieKind kind = KindToClose(call);
+    const BOOL closed = CloseHandle(ObjectArgument<HANDLE>(call, 0, kind));
+    call.guest.cookies.Forget(kind, call.Argument(0));
+    return static_cast<Word>(closed);
+}
+
 static Word DoReadFile(Call& call)
 {
     const Address buffer = call.Argument(1);
@@ -16,8 +36,8 @@ static Word DoReadFile(Call& call)
         call.guest.Misuse("a read that does not wait is not carried across");
     }
     DWORD delivered = 0;
-    const BOOL result =
-        ReadFile(HandleAt<HANDLE>(call, 0), call.Room(buffer, size, 1), size, &delivered, nullptr);
+    const BOOL result = ReadFile(ObjectArgument<HANDLE>(call, 0, CookieKind::File),
+                                 call.Room(buffer, size, 1), size, &delivered, nullptr);
     call.MarkWritten(buffer, delivered);
     count.SetAll(delivered);
     return static_cast<Word>(result);
@@ -30,8 +50,8 @@ static Word DoSetFilePointer(Call& call)
     if (record) {
         high = record.GetAll();
     }
-    const DWORD place =
-        SetFilePointer(HandleAt<HANDLE>(call, 0), call.Signed(1), record ? &high : nullptr, call.Argument(3));
+    const DWORD place = SetFilePointer(ObjectArgument<HANDLE>(call, 0, CookieKind::File), call.Signed(1),
+                                       record ? &high : nullptr, call.Argument(3));
     if (record) {
         record.SetAll(high);
     }
@@ -51,12 +71,12 @@ static Word DoFindFirst(Call& call)
 static Word DoFindFirstEx(Call& call)
 {
     WIN32_FIND_DATAW data = {};
-    if (call.Argument(4) != 0) {
-        call.guest.Misuse("criteria of a search, which the device does not have");
+    if (call.Argument(4) != 0 || call.Argument(5) != 0) {
+        call.guest.Misuse("criteria or flags of a search, which the device does not have");
     }
     const HANDLE search =
         FindFirstFileExW(TextArgument(call, 0), static_cast<FINDEX_INFO_LEVELS>(call.Argument(1)), &data,
-                         static_cast<FINDEX_SEARCH_OPS>(call.Argument(3)), nullptr, call.Argument(5));
+                         static_cast<FINDEX_SEARCH_OPS>(call.Argument(3)), nullptr, 0);
     if (search != INVALID_HANDLE_VALUE) {
         GiveFindData(call, call.Argument(2), data);
     }
@@ -81,15 +101,9 @@ static Word DoFindClose(Call& call)
 }
 
 static constexpr Bridge fileRows[] = {
-    {"CloseHandle", "u h"},
-    {"CreateFileW", "h tuu p12 uuh"},
-    {"FindClose", DoFindClose},
-    {"FindFirstFileExW", DoFindFirstEx},
-    {"FindFirstFileW", DoFindFirst},
-    {"FindNextFileW", DoFindNext},
-    {"GetDiskFreeSpaceExW", "u tq8q8q8"},
-    {"GetFileSize", "d hq4"},
-    {"ReadFile", DoReadFile},
+    {"CloseHandle", DoCloseHandle},       {"CreateFileW", "oO tuu p12 uuu"}, {"FindClose", DoFindClose},
+    {"FindFirstFileExW", DoFindFirstEx},  {"FindFirstFileW", DoFindFirst},   {"FindNextFileW", DoFindNext},
+    {"GetDiskFreeSpaceExW", "u tq8q8q8"}, {"GetFileSize", "d oOq4"},         {"ReadFile", DoReadFile},
     {"SetFilePointer", DoSetFilePointer},
 };
 

@@ -31,6 +31,9 @@ static Word DoCreateKey(Call& call)
 {
     HKEY key = nullptr;
     DWORD disposition = 0;
+    if (call.Argument(6) != 0) {
+        call.guest.Misuse("security of a key, which the device does not have", call.Argument(6));
+    }
     const LONG result = RegCreateKeyExW(KeyArgument(call), TextArgument(call, 1), call.Argument(2),
                                         const_cast<wchar_t*>(TextArgument(call, 3)), call.Argument(4),
                                         call.Argument(5), nullptr, &key, &disposition);
@@ -49,6 +52,9 @@ static Word DoQueryValue(Call& call)
     const auto type = call.RecordAt<Word>(3);
     const auto size = call.RecordAt<Word>(5);
     const Address data = call.Argument(4);
+    if (call.Argument(2) != 0) {
+        call.guest.Misuse("a parameter that has to be null", call.Argument(2));
+    }
     DWORD kind = 0;
     DWORD bytes = size && data != 0 ? size.GetAll() : 0;
     auto* room = static_cast<BYTE*>(call.Room(data, bytes, 1));

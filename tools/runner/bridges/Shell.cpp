@@ -47,11 +47,11 @@ static Word DoFileInfo(Call& call)
     if (flags != (SHGFI_SYSICONINDEX | SHGFI_SMALLICON)) {
         call.guest.Misuse("facts of a file that are not carried across", flags);
     }
+    call.Room(record.At(), sizeof(FileInfo));
     SHFILEINFOW info = {};
     const DWORD_PTR list = SHGetFileInfo(TextArgument(call, 0), call.Argument(1), &info, sizeof(info), flags);
     if (list != 0) {
-        record.Set(&FileInfo::icon, WordOf(info.hIcon));
-        record.Set(&FileInfo::index, LONG{info.iIcon});
+        record.Set(&FileInfo::index, LONG{info.iIcon}); // nothing else is asked for
     }
     return call.Cookie(CookieKind::ImageList, list);
 }
@@ -63,6 +63,9 @@ static Word DoShellExecute(Call& call)
     SHELLEXECUTEINFOW info = {};
     info.cbSize = sizeof(info);
     info.fMask = record.Get(&ExecuteInfo::mask);
+    if ((info.fMask & ~ULONG{SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI}) != 0) {
+        call.guest.Misuse("members of the record that are not carried across", record.At());
+    }
     info.hwnd = HandleOf<HWND>(record.Get(&ExecuteInfo::window));
     info.lpVerb = Wide(call.TextAt(record.Get(&ExecuteInfo::verb)));
     info.lpFile = Wide(call.TextAt(record.Get(&ExecuteInfo::file)));
@@ -72,7 +75,7 @@ static Word DoShellExecute(Call& call)
     const BOOL result = ShellExecuteEx(&info);
     record.Set(&ExecuteInfo::instance, WordOf(info.hInstApp));
     if ((info.fMask & SEE_MASK_NOCLOSEPROCESS) != 0) {
-        record.Set(&ExecuteInfo::process, WordOf(info.hProcess));
+        record.Set(&ExecuteInfo::process, CookieOf(call, CookieKind::Process, info.hProcess));
     }
     return static_cast<Word>(result);
 }

@@ -28,7 +28,8 @@ static Word DoTerminateProcess(Call& call)
     if (call.Argument(0) == ownProcess) {
         EndProcess(call.Argument(1));
     }
-    return static_cast<Word>(TerminateProcess(HandleAt<HANDLE>(call, 0), call.Argument(1)));
+    return static_cast<Word>(
+        TerminateProcess(ObjectArgument<HANDLE>(call, 0, CookieKind::Process), call.Argument(1)));
 }
 
 static Word DoGetModuleHandle(Call& call)

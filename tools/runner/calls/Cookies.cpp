@@ -30,9 +30,13 @@ const char* NameOf(CookieKind kind)
     case CookieKind::Key:
         return "registry key";
     case CookieKind::ItemList:
-        return "item list of the shell";
+        return "shell's item list";
     case CookieKind::Module:
         return "library";
+    case CookieKind::File:
+        return "file";
+    case CookieKind::Process:
+        return "process";
     case CookieKind::Snapshot:
         return "snapshot";
     case CookieKind::TreeItem:
@@ -78,6 +82,15 @@ void Cookies::Forget(CookieKind kind, Word cookie)
         found->second.forgotten = true;
         known.erase({kind, found->second.host});
     }
+}
+
+std::map<CookieKind, std::size_t> Cookies::LiveByKind() const
+{
+    std::map<CookieKind, std::size_t> counts;
+    for (const auto& [object, cookie] : known) {
+        counts[object.first]++;
+    }
+    return counts;
 }
 
 } // namespace runner

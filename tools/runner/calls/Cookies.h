@@ -18,6 +18,8 @@ enum class CookieKind : char
     Key = 'K',
     ItemList = 'L',
     Module = 'M',
+    File = 'O',
+    Process = 'P',
     Snapshot = 'S',
     TreeItem = 'T',
 };
@@ -61,6 +63,7 @@ class Cookies
     // The object is closed: a later use is told from that of a value that never was one.
     void Forget(CookieKind kind, Word cookie);
     std::size_t Live() const { return known.size(); }
+    std::map<CookieKind, std::size_t> LiveByKind() const;
 };
 
 } // namespace runner

@@ -1,0 +1,41 @@
+// Misuses of the platform that the PC's libraries, or the compiler for the PC, do not mind: a function each.
+#pragma once
+
+#include "platform/ce.h"
+
+// Structures of a wrong size.
+void ShortProcessEntry();
+void ShortModuleEntry();
+void ShortHeapEntry();
+void ShortFileInfo();
+void ShortExecuteInfo();
+void ShortMemoryStatus();
+void ShortVersion();
+void ShortDisplayMode();
+
+// Handles and objects after their end, or of another kind.
+void KeyClosedTwice();
+void InventedKey();
+void SnapshotAsSearch();
+void SearchAfterItsEnd();
+void FileAfterItsEnd();
+void FileAsProcess();
+void AllocatorReleasedTwice();
+void ItemFreedTwice();
+void ImagesBlockFreed();
+
+// Memory that a call reads or writes.
+void ReadIntoAShortBlock();
+void PatternWithoutEnd();
+void NameBehindItsEnd();
+void SizeThatNobodySet();
+void FigureOfAFailedCall();
+void CopyOntoItself();
+void ImageOfNoBlock();
+
+// What the device has otherwise.
+void ColourWithoutItsMark();
+void BrushWithoutItsMark();
+void WideNumberInAFormat();
+void MovableBlock();
+void FunctionThatIsMissing();

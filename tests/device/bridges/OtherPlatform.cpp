@@ -1,0 +1,45 @@
+// What the PC has and the device has not, or has otherwise.
+#include "tests/device/bridges/Hidden.h"
+#include "tests/device/bridges/Misuse.h"
+
+// Numbers of the desktop's.
+static constexpr int desktopHighlight = 13;
+static constexpr UINT_PTR desktopWindow = 5;
+
+void ColourWithoutItsMark()
+{
+    GetSysColor(desktopHighlight);
+}
+
+void BrushWithoutItsMark()
+{
+    const RECT area = {0, 0, 1, 1};
+    const HDC screen = GetDC(nullptr);
+    FillRect(screen, &area, reinterpret_cast<HBRUSH>(desktopWindow + 1));
+}
+
+static void Format(wchar_t* text, const wchar_t* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    _vsnwprintf(text, 32, format, arguments);
+    va_end(arguments);
+}
+
+void WideNumberInAFormat()
+{
+    wchar_t text[32];
+    Format(text, L"%d %I64u", 1, static_cast<uint64_t>(5));
+}
+
+void MovableBlock()
+{
+    LocalAlloc(LMEM_MOVEABLE, 4);
+}
+
+void FunctionThatIsMissing()
+{
+    const HMODULE library = LoadLibraryW(L"coredll.dll");
+    const FARPROC function = GetProcAddressW(library, L"NoSuchFunction");
+    Hidden(function)();
+}

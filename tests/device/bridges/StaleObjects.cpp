@@ -1,0 +1,82 @@
+// Handles and objects that are used after their end, or as something else than they are.
+#include "tests/device/bridges/Misuse.h"
+#include "tests/device/bridges/SmallPicture.h"
+
+static HKEY OpenSoftware()
+{
+    HKEY key = nullptr;
+    RegOpenKeyExW(HKEY_CURRENT_USER, L"Software", 0, KEY_ALL_ACCESS, &key);
+    return key;
+}
+
+void KeyClosedTwice()
+{
+    const HKEY key = OpenSoftware();
+    RegCloseKey(key);
+    RegCloseKey(key);
+}
+
+void InventedKey()
+{
+    RegCloseKey(reinterpret_cast<HKEY>(0x12345678));
+}
+
+void SnapshotAsSearch()
+{
+    FindClose(CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS | TH32CS_SNAPNOHEAPS, 0));
+}
+
+void SearchAfterItsEnd()
+{
+    WIN32_FIND_DATAW found = {};
+    const HANDLE search = FindFirstFileW(L"\\*", &found);
+    FindClose(search);
+    FindNextFileW(search, &found);
+}
+
+static HANDLE OpenFile()
+{
+    wchar_t path[MAX_PATH];
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                       nullptr);
+}
+
+void FileAfterItsEnd()
+{
+    const HANDLE file = OpenFile();
+    CloseHandle(file);
+    GetFileSize(file, nullptr);
+}
+
+void FileAsProcess()
+{
+    WaitForSingleObject(OpenFile(), 0);
+}
+
+void AllocatorReleasedTwice()
+{
+    IMalloc* allocator = nullptr;
+    SHGetMalloc(&allocator);
+    allocator->Release();
+    allocator->Release();
+}
+
+void ItemFreedTwice()
+{
+    IMalloc* allocator = nullptr;
+    ITEMIDLIST* item = nullptr;
+    SHGetMalloc(&allocator);
+    SHGetSpecialFolderLocation(nullptr, CSIDL_STARTMENU, &item);
+    allocator->Free(item);
+    allocator->Free(item);
+}
+
+void ImagesBlockFreed()
+{
+    void* block = LocalAlloc(LMEM_FIXED, sizeof smallPicture);
+    memcpy(block, &smallPicture, sizeof smallPicture);
+    IImage* image = ImageOf(block, sizeof smallPicture);
+    LocalFree(block);
+    image->Release();
+}

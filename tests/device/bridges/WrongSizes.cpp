@@ -1,0 +1,61 @@
+// Structures of a size that the device does not take.
+#include "tests/device/bridges/Misuse.h"
+
+void ShortProcessEntry()
+{
+    PROCESSENTRY32 entry = {};
+    entry.dwSize = sizeof entry - 8;
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS | TH32CS_SNAPNOHEAPS, 0);
+    Process32First(snapshot, &entry);
+}
+
+void ShortModuleEntry()
+{
+    MODULEENTRY32 entry = {};
+    entry.dwSize = sizeof entry - 12;
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPMODULE | TH32CS_SNAPNOHEAPS, 0);
+    Module32First(snapshot, &entry);
+}
+
+void ShortHeapEntry()
+{
+    HEAPLIST32 list = {};
+    list.dwSize = sizeof list;
+    HEAPENTRY32 entry = {};
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, 0);
+    Heap32ListFirst(snapshot, &list);
+    Heap32First(snapshot, &entry, list.th32ProcessID, list.th32HeapID);
+}
+
+void ShortFileInfo()
+{
+    SHFILEINFOW info = {};
+    SHGetFileInfo(L"\\", 0, &info, sizeof info - 4, SHGFI_SYSICONINDEX | SHGFI_SMALLICON);
+}
+
+void ShortExecuteInfo()
+{
+    SHELLEXECUTEINFOW info = {};
+    info.lpFile = L"\\nothing";
+    ShellExecuteEx(&info);
+}
+
+void ShortMemoryStatus()
+{
+    MEMORYSTATUS status = {};
+    GlobalMemoryStatus(&status);
+}
+
+void ShortVersion()
+{
+    OSVERSIONINFOW version = {};
+    version.dwOSVersionInfoSize = sizeof version - 2;
+    GetVersionExW(&version);
+}
+
+void ShortDisplayMode()
+{
+    DEVMODEW mode = {};
+    mode.dmSize = sizeof mode + 28;
+    ChangeDisplaySettingsEx(nullptr, &mode, nullptr, CDS_TEST, nullptr);
+}

@@ -1,0 +1,64 @@
+// What a program for the device must not do with the platform is found where it does it, by the bridge that
+// it calls.
+#include "tests/runner/GuestRun.h"
+
+#include <gtest/gtest.h>
+
+static constexpr unsigned long foundCode = 99;
+
+struct MisuseRow
+{
+    const char* function; // of the program
+    const char* finding;
+};
+
+// In the order of the program's table.
+static constexpr MisuseRow misuses[] = {
+    {"ShortProcessEntry", "Process32First: a structure of 556 bytes; the device's has 564"},
+    {"ShortModuleEntry", "Module32First: a structure of 1064 bytes; the device's has 1076"},
+    {"ShortHeapEntry", "Heap32First: a structure of 0 bytes; the device's has 36"},
+    {"ShortFileInfo", "SHGetFileInfo: a structure of 688 bytes; the device's has 692"},
+    {"ShortExecuteInfo", "ShellExecuteEx: a structure of 0 bytes; the device's has 60"},
+    {"ShortMemoryStatus", "GlobalMemoryStatus: a structure of 0 bytes; the device's has 32"},
+    {"ShortVersion", "GetVersionExW: a structure of 274 bytes; the device's has 276"},
+    {"ShortDisplayMode", "ChangeDisplaySettingsEx: a structure of 220 bytes; the device's has 192"},
+    {"KeyClosedTwice", "RegCloseKey: a registry key that was closed"},
+    {"InventedKey", "RegCloseKey: no registry key"},
+    {"SnapshotAsSearch", "FindClose: an object of another kind in the place of a search for files"},
+    {"SearchAfterItsEnd", "FindNextFileW: a search for files that was closed"},
+    {"FileAfterItsEnd", "GetFileSize: a file that was closed"},
+    {"FileAsProcess", "WaitForSingleObject: an object of another kind in the place of a process"},
+    {"AllocatorReleasedTwice", "IMalloc method 2: no COM object, or one that was released"},
+    {"ItemFreedTwice", "IMalloc method 5: a shell's item list that was closed"},
+    {"ImagesBlockFreed", "the block is freed"},
+    {"ReadIntoAShortBlock", "0 bytes behind the block of 8 bytes"},
+    {"PatternWithoutEnd", "0 bytes behind the block of 4 bytes"},
+    {"NameBehindItsEnd", "the value was never written"},
+    {"SizeThatNobodySet", "the value was never written"},
+    {"FigureOfAFailedCall", "the value was never written"},
+    {"CopyOntoItself", "memcpy of bytes onto themselves"},
+    {"ImageOfNoBlock", "IImagingFactory method 5: an image of something else than a block of the heap"},
+    {"ColourWithoutItsMark", "GetSysColor: a system colour's index without the device's mark"},
+    {"BrushWithoutItsMark",
+     "FillRect: a system colour's index without the device's mark in the place of a brush"},
+    {"WideNumberInAFormat", "_vsnwprintf: a format that is not carried across: %I"},
+    {"MovableBlock", "LocalAlloc: flags of a block that the device does not have"},
+    {"FunctionThatIsMissing", "no memory there"},
+};
+
+TEST(BridgeMisuseTest, EveryMisuseIsFoundAndNamed)
+{
+    for (std::size_t i = 0; i < std::size(misuses); i++) {
+        const MisuseRow& row = misuses[i];
+        const GuestRun run(L"MisusingProgram", std::to_wstring(i));
+        EXPECT_EQ(run.ExitCode(), foundCode) << row.function;
+        EXPECT_TRUE(run.Says(row.function) && run.Says(row.finding)) << row.function << ": " << run.Log();
+    }
+}
+
+TEST(BridgeMisuseTest, WithoutAMisuseTheProgramEndsAsItWants)
+{
+    const GuestRun run(L"MisusingProgram", L"");
+    EXPECT_EQ(run.ExitCode(), 7u) << run.Log();
+    EXPECT_FALSE(run.Says("FINDING")) << run.Log();
+}

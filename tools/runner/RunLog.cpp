@@ -63,7 +63,7 @@ void RunLog::WriteSummary(Word exitCode)
               " bytes by " + guest->symbols.NameOf(leak.allocatedAt));
     }
     for (const auto& [kind, count] : guest->cookies.LiveByKind()) {
-        Write("  left: " + std::to_string(count) + " open, a " + NameOf(kind) + " each");
+        Write(std::string("  open: ") + NameOf(kind) + " " + std::to_string(count));
     }
     for (const auto& [name, sum] : guest->counts.Sections()) {
         Write("  part: " + name + " times " + std::to_string(sum.times) + " instructions " +

@@ -87,7 +87,8 @@ void AskDevice()
     GlobalMemoryStatus(&memory);
     Expect(memory.dwMemoryLoad <= 100 && memory.dwTotalPhys > 0 && memory.dwAvailPhys <= memory.dwTotalPhys);
     SYSTEM_POWER_STATUS_EX power;
-    Expect(GetSystemPowerStatusEx(&power, TRUE) && (power.BatteryLifePercent <= 100));
+    Expect(GetSystemPowerStatusEx(&power, TRUE));
+    Expect(power.BatteryLifePercent <= 100 || power.BatteryLifePercent == 255);
     OSVERSIONINFOW version = {};
     version.dwOSVersionInfoSize = sizeof version;
     Expect(GetVersionExW(&version) && version.dwMajorVersion == 5);

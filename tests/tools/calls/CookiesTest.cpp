@@ -62,4 +62,15 @@ TEST(CookiesTest, AForgottenOneIsToldAndNeverGivenAgain)
     EXPECT_EQ(cookies.Take(CookieKind::Key, cookie).state, Cookies::State::Forgotten);
 }
 
+TEST(CookiesTest, TheLiveOnesAreCountedByTheirKinds)
+{
+    Cookies cookies;
+    const Word file = cookies.Give(CookieKind::File, object);
+    cookies.Give(CookieKind::File, object + 8);
+    cookies.Give(CookieKind::Process, object);
+    cookies.Forget(CookieKind::File, file);
+    const std::map<CookieKind, std::size_t> expected = {{CookieKind::File, 1}, {CookieKind::Process, 1}};
+    EXPECT_EQ(cookies.LiveByKind(), expected);
+}
+
 } // namespace runner

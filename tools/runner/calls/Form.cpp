@@ -21,7 +21,7 @@ bool Form::Read(const char* form)
             return false;
         }
         if (part.letter == 'o') {
-            if (!std::strchr("CFHIKLMST", *c) || *c == '\0') {
+            if (!std::strchr("CFHIKLMOPST", *c) || *c == '\0') {
                 return false;
             }
             part.kind = *c++;

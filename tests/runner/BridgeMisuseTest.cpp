@@ -44,6 +44,7 @@ static constexpr MisuseRow misuses[] = {
     {"WideNumberInAFormat", "_vsnwprintf: a format that is not carried across: %I"},
     {"MovableBlock", "LocalAlloc: flags of a block that the device does not have"},
     {"FunctionThatIsMissing", "no memory there"},
+    {"LibraryAfterItsEnd", "GetProcAddressW: a library that was closed"},
 };
 
 TEST(BridgeMisuseTest, EveryMisuseIsFoundAndNamed)

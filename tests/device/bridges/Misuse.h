@@ -39,3 +39,4 @@ void BrushWithoutItsMark();
 void WideNumberInAFormat();
 void MovableBlock();
 void FunctionThatIsMissing();
+void LibraryAfterItsEnd();

@@ -10,7 +10,7 @@ static void (*const misuses[])() = {
     ImagesBlockFreed,      ReadIntoAShortBlock, PatternWithoutEnd,      NameBehindItsEnd,
     SizeThatNobodySet,     FigureOfAFailedCall, CopyOntoItself,         ImageOfNoBlock,
     ColourWithoutItsMark,  BrushWithoutItsMark, WideNumberInAFormat,    MovableBlock,
-    FunctionThatIsMissing,
+    FunctionThatIsMissing, LibraryAfterItsEnd,
 };
 
 int ProgramMain(HINSTANCE, HINSTANCE, const wchar_t* commandLine, int)

@@ -43,3 +43,14 @@ void FunctionThatIsMissing()
     const FARPROC function = GetProcAddressW(library, L"NoSuchFunction");
     Hidden(function)();
 }
+
+// The libraries that the start-up code looks into stay loaded; this is none of them.
+void LibraryAfterItsEnd()
+{
+    const HMODULE library = LoadLibraryW(L"toolhelp.dll");
+    LoadLibraryW(L"toolhelp.dll");
+    FreeLibrary(library);
+    GetProcAddressW(library, L"Process32First");
+    FreeLibrary(library);
+    GetProcAddressW(library, L"Process32First");
+}

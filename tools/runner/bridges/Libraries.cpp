@@ -7,10 +7,20 @@
 
 namespace runner {
 
-// The names of the libraries that the guest has loaded, by their cookies.
-static std::map<Word, std::string>& Loaded()
+namespace {
+
+struct LoadedLibrary
 {
-    static std::map<Word, std::string> loaded;
+    std::string name;
+    int uses = 0;
+};
+
+} // namespace
+
+// The libraries that the guest has loaded, by their cookies.
+static std::map<Word, LoadedLibrary>& Loaded()
+{
+    static std::map<Word, LoadedLibrary> loaded;
     return loaded;
 }
 
@@ -34,14 +44,19 @@ static Word DoLoadLibrary(Call& call)
         return 0;
     }
     const Word cookie = CookieOf(call, CookieKind::Module, module);
-    Loaded()[cookie] = name;
+    LoadedLibrary& loaded = Loaded()[cookie];
+    loaded.name = name;
+    loaded.uses++;
     return cookie;
 }
 
 static Word DoFreeLibrary(Call& call)
 {
-    // The substitutes stay: the guest's own imports keep them.
     call.Object(0, CookieKind::Module);
+    // The substitute stays all the same: the guest's own imports keep it.
+    if (--Loaded()[call.Argument(0)].uses == 0) {
+        call.guest.cookies.Forget(CookieKind::Module, call.Argument(0));
+    }
     return TRUE;
 }
 
@@ -51,7 +66,7 @@ static Word DoGetProcAddress(Call& call)
     const char16_t* name = call.TextOrNumber(1);
     const std::string label = IS_INTRESOURCE(name) ? "#" + std::to_string(reinterpret_cast<ULONG_PTR>(name))
                                                    : NarrowText(Wide(name));
-    const Address function = BindImport(call.guest, Loaded()[call.Argument(0)], label);
+    const Address function = BindImport(call.guest, Loaded()[call.Argument(0)].name, label);
     if (function == 0) {
         SetLastError(ERROR_PROC_NOT_FOUND);
     }

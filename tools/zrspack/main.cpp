@@ -1,9 +1,9 @@
 // zrspack: packs the program's pictures into the container it reads them from.
+#include "tools/common/ByteView.h"
 #include "tools/common/InputFile.h"
 #include "tools/common/OutputFile.h"
 #include "tools/common/Refusal.h"
 #include "tools/common/RunTool.h"
-#include "tools/common/ByteView.h"
 #include "tools/zrspack/CommandLine.h"
 #include "tools/zrspack/ContainerListing.h"
 #include "tools/zrspack/ContainerWriter.h"

@@ -1,5 +1,6 @@
 # The program's folders stand on floors: a file includes only its own folder and those below, and no page another page.
-# Of the platform it includes platform/ce.h alone. ROOT is the tree, FOLDERS how many folders it must have.
+# Of the platform it includes platform/ce.h alone. So do the folders of the runner, whose machine and calls know nothing
+# of Windows. ROOT is the tree, FOLDERS how many of these folders it must have.
 cmake_minimum_required(VERSION 3.25)
 set(framework "")
 set(lists framework)
@@ -32,6 +33,28 @@ foreach(floor framework lists startmenu dialogs pages keys app)
                 continue() # what a floor's rooms share
             endif()
             list(APPEND complaints "${place} includes ${included}")
+        endforeach()
+    endforeach()
+endforeach()
+# The runner: a machine, calls out of it and into it, what they reach on the PC.
+set(below "")
+foreach(floor machine calls bridges)
+    list(APPEND below tools/runner/${floor})
+    file(GLOB files ${ROOT}/tools/runner/${floor}/*.cpp ${ROOT}/tools/runner/${floor}/*.h)
+    if(files)
+        math(EXPR folders "${folders} + 1")
+    endif()
+    foreach(file IN LISTS files)
+        file(RELATIVE_PATH place ${ROOT} ${file})
+        file(STRINGS ${file} lines REGEX "^[ \t]*#[ \t]*include[ \t]+[\"<]")
+        foreach(line IN LISTS lines)
+            string(REGEX REPLACE "^[^\"<]*[\"<]([^\">]*)[\">].*" "\\1" included "${line}")
+            get_filename_component(included_room ${included} DIRECTORY)
+            if(included_room MATCHES "^tools/runner" AND NOT included_room IN_LIST below)
+                list(APPEND complaints "${place} includes ${included}")
+            elseif(NOT floor STREQUAL "bridges" AND included MATCHES "^(platform/|windows[.]h)")
+                list(APPEND complaints "${place} includes ${included}")
+            endif()
         endforeach()
     endforeach()
 endforeach()

@@ -11,8 +11,6 @@
 
 namespace runner {
 
-static RunLog* runLog = nullptr;
-
 static std::string NarrowPath(const std::wstring& path)
 {
     return std::filesystem::path(path).string();
@@ -44,7 +42,6 @@ static Address PlaceCommandLine(Machine& machine, const std::wstring& text)
 void RunProcess(RunLog& log, const std::wstring& imagePath, const std::wstring& symbolPath,
                 const std::wstring& commandLine, bool isTraced)
 {
-    runLog = &log;
     const ArmImage image(ReadInputFile(NarrowPath(imagePath)));
     // It lives as long as the process does: windows call back until the very end.
     auto& guest = *new Guest(log);
@@ -53,6 +50,7 @@ void RunProcess(RunLog& log, const std::wstring& imagePath, const std::wstring& 
     if (std::filesystem::exists(symbolPath)) {
         guest.symbols = Symbols(ReadInputFile(NarrowPath(symbolPath)));
     }
+    guest.journal = &log;
     guest.trace = isTraced ? &log : nullptr;
     guest.image = image.Base();
     guest.hostResources =
@@ -65,15 +63,6 @@ void RunProcess(RunLog& log, const std::wstring& imagePath, const std::wstring& 
     const Address text = PlaceCommandLine(guest.machine, commandLine);
     guest.Enter(image.Entry(), image.Base(), 0, text, SW_SHOWNORMAL);
     guest.Misuse("the entry returned");
-}
-
-void EndProcess(Word exitCode)
-{
-    runLog->WriteSummary(exitCode);
-    TerminateProcess(reinterpret_cast<HANDLE>(-1), exitCode);
-    for (;;) {
-        Sleep(INFINITE);
-    }
 }
 
 } // namespace runner

@@ -7,11 +7,8 @@ namespace runner {
 
 class RunLog;
 
-// Loads the image and runs it; it ends by EndProcess. Throws Refusal for an image that cannot be run.
+// Loads the image and runs it; it ends itself. Throws Refusal for an image that cannot be run.
 [[noreturn]] void RunProcess(RunLog& log, const std::wstring& image, const std::wstring& symbols,
                              const std::wstring& commandLine, bool isTraced);
-
-// As TerminateProcess of itself does.
-[[noreturn]] void EndProcess(Word exitCode);
 
 } // namespace runner

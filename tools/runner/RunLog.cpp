@@ -48,7 +48,7 @@ void RunLog::TellFault(std::uint64_t place, std::uint64_t address)
     Tell(text + (guest ? " [while serving " + guest->CurrentImport() + "]" : std::string()));
 }
 
-void RunLog::WriteSummary(Word exitCode)
+void RunLog::WriteEnd(Word exitCode)
 {
     const GuestHeap& heap = guest->machine.heap;
     Write("end: code " + std::to_string(exitCode) + ", " + std::to_string(guest->machine.processor.Count()) +

@@ -25,8 +25,8 @@ class RunLog : public Journal, public FindingSink
     void Tell(const std::string& line);
     // Of the host's code.
     void TellFault(std::uint64_t place, std::uint64_t address);
-    // What is left when the guest ends: counts, blocks, depth of the stack.
-    void WriteSummary(Word exitCode);
+    // With what is left: counts, blocks, depth of the stack.
+    void WriteEnd(Word exitCode) override;
 
   private:
     void Take(const Finding& finding) override;

@@ -1,5 +1,4 @@
 // The process itself, and what the system says of the device.
-#include "tools/runner/Process.h"
 #include "tools/runner/bridges/Bridges.h"
 #include "tools/runner/bridges/Host.h"
 
@@ -25,11 +24,18 @@ static constexpr Word ownModule = 0;
 
 static Word DoTerminateProcess(Call& call)
 {
-    if (call.Argument(0) == ownProcess) {
-        EndProcess(call.Argument(1));
+    const Word exitCode = call.Argument(1);
+    if (call.Argument(0) != ownProcess) {
+        return static_cast<Word>(
+            TerminateProcess(ObjectArgument<HANDLE>(call, 0, CookieKind::Process), exitCode));
     }
-    return static_cast<Word>(
-        TerminateProcess(ObjectArgument<HANDLE>(call, 0, CookieKind::Process), call.Argument(1)));
+    if (call.guest.journal) {
+        call.guest.journal->WriteEnd(exitCode);
+    }
+    TerminateProcess(reinterpret_cast<HANDLE>(-1), exitCode);
+    for (;;) {
+        Sleep(INFINITE);
+    }
 }
 
 static Word DoGetModuleHandle(Call& call)

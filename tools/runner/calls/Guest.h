@@ -20,6 +20,8 @@ class Journal
   public:
     virtual ~Journal() = default;
     virtual void Write(const std::string& line) = 0;
+    // The guest ends its process.
+    virtual void WriteEnd(Word exitCode) = 0;
 };
 
 class Guest
@@ -51,6 +53,7 @@ class Guest
     Counts counts;
     Address image = 0;               // the module that the guest calls itself
     std::uint64_t hostResources = 0; // the module that has the guest's resources on the host
+    Journal* journal = nullptr;      // is told of the end
     Journal* trace = nullptr;        // null: calls are not told
 
     explicit Guest(FindingSink& findings, const Layout& layout = {});

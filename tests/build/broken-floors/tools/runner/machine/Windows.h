@@ -1,0 +1,2 @@
+// The machine is the same on every system.
+#include <windows.h>

@@ -6,6 +6,7 @@
 #include "rig/Desktop.h"
 #include "rig/Input.h"
 #include "rig/WaitFor.h"
+#include "tests/e2e/ScreenReport.h"
 
 using namespace rig;
 
@@ -46,6 +47,7 @@ void PageScreen::TearDown()
 {
     // What a failed test leaves open would fail the next one too.
     if (HasFailure()) {
+        ReportEnd(program);
         program.reset();
     }
 }

@@ -1,5 +1,7 @@
 // What stood on the screen when a check failed: the windows from the front one to the back. A failure that
 // comes once in a hundred runs can be told from that.
+#include "tests/e2e/ScreenReport.h"
+
 #include "rig/Desktop.h"
 
 #include <gtest/gtest.h>
@@ -70,6 +72,13 @@ void ScreenReport::OnTestPartResult(const testing::TestPartResult& result)
         }
     }
     std::cout.flush();
+}
+
+void ReportEnd(const std::optional<rig::Program>& program)
+{
+    if (const auto code = program ? program->ExitCode(std::chrono::milliseconds(0)) : std::nullopt) {
+        std::cout << "the program has ended with the code " << *code << '\n' << std::flush;
+    }
 }
 
 static const bool listening = [] {

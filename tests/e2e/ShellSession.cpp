@@ -5,12 +5,20 @@
 #include "rig/Actor.h"
 #include "rig/Controls.h"
 #include "rig/Picture.h"
+#include "tests/e2e/ScreenReport.h"
 
 using namespace rig;
 
 ShellSession::ShellSession()
 {
     SetProcessDPIAware();
+}
+
+ShellSession::~ShellSession()
+{
+    if (HasFailure()) {
+        ReportEnd(program);
+    }
 }
 
 void ShellSession::StartProgram(const std::wstring& arguments, const std::wstring& folder)

@@ -49,6 +49,7 @@ class ShellSession : public testing::Test
 
     // Screen coordinates are pixels in this process too, on any profile.
     ShellSession();
+    ~ShellSession() override;
 
     // Starts the program and waits until it is in front on its first page.
     void SetUp() override;

@@ -6,6 +6,11 @@
 
 #include <windows.h>
 
+#include <exception>
+
+// The first digit of an exception's code; a program's own have another.
+static constexpr DWORD systemErrors = 0xC;
+
 static runner::RunLog* theLog = nullptr;
 
 static std::wstring Variable(const wchar_t* name)
@@ -25,13 +30,21 @@ static std::wstring OwnPath()
 // same, with what was being served.
 static LONG CALLBACK HostFault(EXCEPTION_POINTERS* fault)
 {
-    if (fault->ExceptionRecord->ExceptionCode != EXCEPTION_ACCESS_VIOLATION || !theLog) {
+    const EXCEPTION_RECORD& record = *fault->ExceptionRecord;
+    if (record.ExceptionCode >> 28 != systemErrors || !theLog) {
         return EXCEPTION_CONTINUE_SEARCH;
     }
-    theLog->TellFault(reinterpret_cast<ULONG_PTR>(fault->ExceptionRecord->ExceptionAddress),
-                      fault->ExceptionRecord->ExceptionInformation[1]);
+    theLog->TellFault(record.ExceptionCode, reinterpret_cast<ULONG_PTR>(record.ExceptionAddress),
+                      record.NumberParameters > 1 ? record.ExceptionInformation[1] : 0);
     TerminateProcess(GetCurrentProcess(), runner::findingExitCode);
     return EXCEPTION_CONTINUE_SEARCH;
+}
+
+[[noreturn]] static void TellAbort()
+{
+    theLog->Tell("HOST FAULT: an exception that nobody takes");
+    TerminateProcess(GetCurrentProcess(), runner::findingExitCode);
+    std::abort();
 }
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
@@ -42,6 +55,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
     runner::RunLog log(Variable(L"QV_RUNNER_LOG"));
     theLog = &log;
     AddVectoredExceptionHandler(1, HostFault);
+    std::set_terminate(TellAbort);
     const std::wstring without = Variable(L"QV_RUNNER_WITHOUT");
     runner::DoWithout(std::string(without.begin(), without.end()));
     try {

@@ -40,10 +40,10 @@ void RunLog::Take(const Finding& finding)
     }
 }
 
-void RunLog::TellFault(std::uint64_t place, std::uint64_t address)
+void RunLog::TellFault(Word code, std::uint64_t place, std::uint64_t address)
 {
     char text[80];
-    std::snprintf(text, sizeof text, "HOST FAULT at %llx, access to %llx",
+    std::snprintf(text, sizeof text, "HOST FAULT %08x at %llx, access to %llx", code,
                   static_cast<unsigned long long>(place), static_cast<unsigned long long>(address));
     Tell(text + (guest ? " [while serving " + guest->CurrentImport() + "]" : std::string()));
 }

@@ -23,8 +23,8 @@ class RunLog : public Journal, public FindingSink
     void Write(const std::string& line) override;
     // To the standard error output too.
     void Tell(const std::string& line);
-    // Of the host's code.
-    void TellFault(std::uint64_t place, std::uint64_t address);
+    // Of the host's code: the exception's code, where it stood, which address it used.
+    void TellFault(Word code, std::uint64_t place, std::uint64_t address);
     // With what is left: counts, blocks, depth of the stack.
     void WriteEnd(Word exitCode) override;
 

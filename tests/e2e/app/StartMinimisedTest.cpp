@@ -1,5 +1,6 @@
 // The first start by a button: the program stays in the background until it is called.
 // profiles: pocketpc smartphone
+// device's executable: smartphone
 #include "rig/Picture.h"
 #include "tests/e2e/ShellSession.h"
 

@@ -1,5 +1,6 @@
 // The start of the program: its window, where everything lies on the screen, and its end.
 // profiles: pocketpc pocketpc-vga smartphone
+// device's executable: pocketpc pocketpc-vga smartphone
 #include "rig/Picture.h"
 #include "tests/e2e/ShellSession.h"
 

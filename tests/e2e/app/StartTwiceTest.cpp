@@ -1,5 +1,6 @@
 // Two starts at the same moment, while the program is not running. Neither can know of the other, so there
 // may be one instance or two afterwards; what they were started for is done in any case.
+// device's executable: pocketpc pocketpc-vga
 #include "tests/e2e/ShellSession.h"
 
 using namespace rig;

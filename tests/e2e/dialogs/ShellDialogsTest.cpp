@@ -1,4 +1,5 @@
 // Closing the program while something is open above its page: a menu, a box, a notice, dialogs.
+// device's executable: pocketpc pocketpc-vga smartphone
 #include "rig/Picture.h"
 #include "tests/e2e/ShellSession.h"
 

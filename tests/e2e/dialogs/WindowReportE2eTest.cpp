@@ -1,4 +1,5 @@
 // The report on a task's window, as the information dialog shows it.
+// device's executable: pocketpc smartphone
 #include "resources/ids.h"
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/TasksScreen.h"

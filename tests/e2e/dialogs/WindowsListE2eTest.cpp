@@ -1,4 +1,5 @@
 // The tree of the windows of a task's process.
+// device's executable: pocketpc pocketpc-vga
 #include "resources/ids.h"
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/TasksScreen.h"

@@ -1,5 +1,6 @@
 // The fatal report's box on the screen: whole, readable, and with the caption of the active window.
 // profiles: pocketpc pocketpc-vga
+// device's executable: pocketpc-vga
 #include "rig/Picture.h"
 #include "tests/e2e/framework/FatalBoxSession.h"
 

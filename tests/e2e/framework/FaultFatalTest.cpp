@@ -1,4 +1,5 @@
 // The fatal report: a box of its own, in front of a program that stays as it is until the box is closed.
+// device's executable: pocketpc smartphone
 #include "rig/Picture.h"
 #include "tests/e2e/framework/FatalBoxSession.h"
 

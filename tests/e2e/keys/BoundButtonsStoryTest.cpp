@@ -1,5 +1,6 @@
 // Two buttons from their binding in the dialog by keys, over real presses in another program, to their
 // return.
+// device's executable: pocketpc
 #include "rig/ChildProcess.h"
 #include "tests/e2e/keys/KeysScreen.h"
 

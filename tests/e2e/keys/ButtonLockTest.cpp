@@ -1,5 +1,6 @@
 // A button that locks the keys, pressed with another program in front.
 // profiles: pocketpc smartphone
+// device's executable: pocketpc smartphone
 #include "rig/Actor.h"
 #include "tests/e2e/HandheldKeys.h"
 #include "tests/e2e/LockedKeys.h"

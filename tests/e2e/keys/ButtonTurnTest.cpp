@@ -1,4 +1,5 @@
 // A button that turns the screen, pressed and held with another program in front.
+// device's executable: pocketpc
 #include "rig/Actor.h"
 #include "tests/e2e/HandheldKeys.h"
 #include "tests/e2e/TurnedSession.h"

@@ -1,5 +1,6 @@
 // The hardware keys dialog of a Pocket PC by keys and by the stylus: binding buttons, and giving them back.
 // profiles: pocketpc pocketpc-vga
+// device's executable: pocketpc pocketpc-vga
 #include "rig/Picture.h"
 #include "tests/e2e/HandheldKeys.h"
 #include "tests/e2e/ScreenText.h"

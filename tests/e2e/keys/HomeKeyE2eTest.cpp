@@ -1,5 +1,6 @@
 // The hardware keys dialog of a Smartphone by its keys.
 // profiles: smartphone
+// device's executable: smartphone
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/keys/KeysScreen.h"
 

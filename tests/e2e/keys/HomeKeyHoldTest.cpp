@@ -1,5 +1,6 @@
 // A Smartphone's Home key that is bound, really held and really pressed, with another program in front.
 // profiles: smartphone
+// device's executable: smartphone
 #include "rig/Actor.h"
 #include "tests/e2e/keys/KeysScreen.h"
 

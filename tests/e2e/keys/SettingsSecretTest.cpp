@@ -1,4 +1,5 @@
 // The path of the settings does not stand in the executable as text.
+// device's executable: pocketpc
 #include "rig/ChildProcess.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 // A Smartphone's first instance that a button has started does nothing, whatever the button says.
 // profiles: smartphone
+// device's executable: smartphone
 #include "tests/e2e/keys/ButtonSession.h"
 
 using namespace rig;

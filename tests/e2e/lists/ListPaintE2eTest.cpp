@@ -1,5 +1,6 @@
 // What the page of running applications looks like on the screen after it has changed.
 // profiles: pocketpc pocketpc-vga
+// device's executable: pocketpc pocketpc-vga
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/TasksScreen.h"
 

@@ -1,5 +1,6 @@
 // Taps on the title strip of the page of running applications, its pop-up, and the arrow keys.
 // profiles: pocketpc pocketpc-vga
+// device's executable: pocketpc-vga
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/TasksScreen.h"
 

@@ -1,5 +1,6 @@
 // The hardware buttons, pressed and held, and what they start.
 // profiles: pocketpc smartphone
+// device's executable: never
 #include "rig/Actor.h"
 #include "tests/e2e/HandheldKeys.h"
 #include "tests/e2e/ShellSession.h"

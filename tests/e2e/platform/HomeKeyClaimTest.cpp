@@ -1,5 +1,6 @@
 // The Home and End keys of a Smartphone.
 // profiles: smartphone
+// device's executable: never
 #include "rig/Actor.h"
 #include "rig/Desktop.h"
 #include "rig/Input.h"

@@ -1,5 +1,6 @@
 // Keys of the handheld that a program claims.
 // profiles: pocketpc smartphone
+// device's executable: never
 #include "rig/Actor.h"
 #include "rig/Desktop.h"
 #include "rig/Input.h"

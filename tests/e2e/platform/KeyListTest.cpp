@@ -1,5 +1,6 @@
 // The list of the handheld's keys.
 // profiles: pocketpc pocketpc-vga smartphone
+// device's executable: never
 #include "rig/Actor.h"
 #include "rig/Picture.h"
 #include "tests/e2e/HandheldKeys.h"

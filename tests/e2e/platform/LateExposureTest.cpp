@@ -1,5 +1,6 @@
 // A window that is uncovered and covered again while its program is busy: it stays behind the other one.
 // profiles: pocketpc smartphone
+// device's executable: never
 #include "rig/Actor.h"
 #include "rig/Desktop.h"
 #include "rig/Picture.h"

@@ -1,5 +1,6 @@
 // Locked keys, and how they are unlocked.
 // profiles: pocketpc smartphone
+// device's executable: never
 #include "rig/Actor.h"
 #include "rig/MenuTwin.h"
 #include "rig/Picture.h"

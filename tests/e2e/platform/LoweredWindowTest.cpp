@@ -1,5 +1,6 @@
 // A window that goes behind all others, while nothing else moves: the screen follows.
 // profiles: pocketpc smartphone
+// device's executable: never
 #include "rig/Actor.h"
 #include "rig/Desktop.h"
 #include "rig/Picture.h"

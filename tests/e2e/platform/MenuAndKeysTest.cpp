@@ -1,4 +1,5 @@
 // The handheld's own keys while a menu is open, its Start menu or another program's.
+// device's executable: never
 #include "rig/Actor.h"
 #include "tests/e2e/HandheldKeys.h"
 #include "tests/e2e/ShellSession.h"

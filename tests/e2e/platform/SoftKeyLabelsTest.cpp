@@ -1,5 +1,6 @@
 // What the soft keys say, and where the page ends above them.
 // profiles: pocketpc pocketpc-vga
+// device's executable: pocketpc-vga
 #include "rig/Picture.h"
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/ShellSession.h"

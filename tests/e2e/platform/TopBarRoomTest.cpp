@@ -1,5 +1,6 @@
 // The top bar is never covered: a program that knows nothing of it is moved from under it.
 // profiles: pocketpc pocketpc-vga
+// device's executable: never
 #include "rig/Actor.h"
 #include "rig/Picture.h"
 #include "tests/e2e/ShellSession.h"

@@ -1,4 +1,5 @@
 // The title in the top bar.
+// device's executable: never
 #include "rig/Actor.h"
 #include "tests/e2e/ShellSession.h"
 

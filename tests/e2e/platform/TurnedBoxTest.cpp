@@ -1,5 +1,6 @@
 // A message box while the screen is turned.
 // profiles: pocketpc pocketpc-vga smartphone
+// device's executable: pocketpc-vga smartphone
 #include "rig/Desktop.h"
 #include "rig/Orientation.h"
 #include "rig/Picture.h"

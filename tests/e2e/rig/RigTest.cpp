@@ -1,5 +1,6 @@
 // The end-to-end tests' own tools: what they say about windows, keys and pixels of other processes is true.
 // profiles: pocketpc pocketpc-vga
+// device's executable: never
 #include "rig/Actor.h"
 #include "rig/Controls.h"
 #include "rig/Desktop.h"

@@ -1,5 +1,6 @@
 // Ending processes by keys and boxes: the one that is named goes, and no other.
 // profiles: pocketpc pocketpc-vga smartphone
+// device's executable: pocketpc pocketpc-vga smartphone
 #include "tests/e2e/ProcsScreen.h"
 
 #include "rig/Controls.h"

@@ -1,5 +1,6 @@
 // The menu of the page of processes, its arrows, and the ways to the report on a process.
 // profiles: pocketpc smartphone
+// device's executable: pocketpc smartphone
 #include "tests/e2e/ProcsScreen.h"
 #include "tests/e2e/ProgramMenu.h"
 #include "tests/e2e/ShellSession.h"

@@ -1,5 +1,6 @@
 // The Back key above the launcher page: it leaves what is open there, and what was typed stays.
 // profiles: pocketpc smartphone
+// device's executable: pocketpc smartphone
 #include "tests/e2e/StartScreen.h"
 
 #include "resources/ids.h"

@@ -1,5 +1,6 @@
 // Starting shortcuts from the launcher page, and the report on them.
 // profiles: pocketpc pocketpc-vga smartphone
+// device's executable: pocketpc pocketpc-vga smartphone
 #include "tests/e2e/ProgramMenu.h"
 #include "tests/e2e/StartScreen.h"
 

@@ -1,5 +1,6 @@
 // The launcher page by the stylus: double taps, the title strip's pop-up, and the menu of the search box.
 // profiles: pocketpc pocketpc-vga
+// device's executable: pocketpc-vga
 #include "tests/e2e/StartScreen.h"
 
 #include "resources/ids.h"

@@ -1,5 +1,6 @@
 // The launcher page by keys: typing, Back, and the keys that move through the list.
 // profiles: pocketpc pocketpc-vga smartphone
+// device's executable: pocketpc pocketpc-vga smartphone
 #include "tests/e2e/StartScreen.h"
 
 #include "resources/ids.h"

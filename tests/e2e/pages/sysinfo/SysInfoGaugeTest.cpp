@@ -1,5 +1,6 @@
 // The gauges on the screen: titles, bars, amounts and pictures.
 // profiles: pocketpc pocketpc-vga smartphone
+// device's executable: pocketpc-vga
 #include "rig/Controls.h"
 #include "tests/e2e/pages/sysinfo/GaugeSession.h"
 

@@ -1,5 +1,6 @@
 // The system information page in use: its neighbours, its menu, its keys, and how it follows what changes.
 // profiles: pocketpc smartphone
+// device's executable: smartphone
 #include "rig/Controls.h"
 #include "rig/MenuTwin.h"
 #include "tests/e2e/pages/sysinfo/GaugeSession.h"

@@ -1,4 +1,5 @@
 // The reports on memory and battery, whole, and the dialog they are shown in.
+// device's executable: pocketpc
 #include "rig/Controls.h"
 #include "tests/e2e/pages/sysinfo/GaugeSession.h"
 

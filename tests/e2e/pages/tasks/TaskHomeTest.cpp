@@ -1,5 +1,6 @@
 // The home screen among the running applications of a Smartphone.
 // profiles: smartphone
+// device's executable: smartphone
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/TasksScreen.h"
 

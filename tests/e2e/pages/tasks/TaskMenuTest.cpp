@@ -1,4 +1,5 @@
 // The menu of the page of running applications: its items, and that each runs its command.
+// device's executable: pocketpc
 #include "resources/ids.h"
 #include "tests/e2e/ProgramMenu.h"
 #include "tests/e2e/TasksScreen.h"

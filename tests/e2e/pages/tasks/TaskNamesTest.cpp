@@ -1,5 +1,6 @@
 // Which of a task's titles names its row, seen on the screen.
 // profiles: pocketpc pocketpc-vga
+// device's executable: pocketpc-vga
 #include "tests/e2e/ScreenText.h"
 #include "tests/e2e/TasksScreen.h"
 

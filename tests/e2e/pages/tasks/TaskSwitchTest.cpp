@@ -1,4 +1,5 @@
 // Switching to a running application.
+// device's executable: pocketpc
 #include "tests/e2e/TasksScreen.h"
 
 #include "rig/Controls.h"

@@ -47,6 +47,7 @@ TEST(CallBackTest, AKeptRegisterThatChangesIsFound)
     const Finding finding = FindingBy([&] { small.guest.CallBack(function); });
     EXPECT_EQ(finding.kind, FindingKind::Misuse);
     EXPECT_NE(finding.text.find("r4"), std::string::npos) << finding.text;
+    EXPECT_EQ(finding.place, function + wordSize);
 }
 
 TEST(CallBackTest, AStackPointerThatChangesIsFound)
@@ -79,9 +80,36 @@ TEST(CallBackTest, WhatAFunctionWithoutAResultLeavesIsUndefined)
     EXPECT_EQ(FindingBy([&] { small.guest.CallBack(function); }).kind, FindingKind::Undefined);
 }
 
+// The system leaves anything in the registers and flags that it hands nothing over in.
+TEST(CallBackTest, WhatNobodyHandsOverIsUndefined)
+{
+    SmallGuest small;
+    const Address scratch =
+        small.Put({0xE35C0000, 0x03A00001, 0xE12FFF1E}); // cmp ip, #0; moveq r0, #1; bx lr
+    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(scratch); }).kind, FindingKind::Undefined);
+    const Address flags = small.Put({0x03A00001, 0xE12FFF1E}); // moveq r0, #1; bx lr
+    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(flags); }).kind, FindingKind::Undefined);
+}
+
+TEST(CallBackTest, AResultThatNobodyWroteIsFound)
+{
+    SmallGuest small;
+    const Address function = small.Put({0xE1A0000C, 0xE12FFF1E}); // mov r0, ip; bx lr
+    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(function); }).kind, FindingKind::Undefined);
+}
+
+TEST(CallBackTest, TheEntrysStackIsAlignedToFourBytesOnly)
+{
+    SmallGuest small;
+    const Address entry = small.Put({0xE1A0000D, 0xE12FFF1E}); // mov r0, sp; bx lr
+    EXPECT_EQ(small.guest.Enter(entry, 0, 0, 0, 0) % 8, 4u);
+}
+
 TEST(CallBackTest, AnAddressThatIsNoImportsIsFound)
 {
     SmallGuest small;
+    const Address behind = small.PutCallOf(small.guest.AddTrap("Last", {"Last", "u"}) + wordSize);
+    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(behind); }).address, TrapAddress(2));
     const Address function = small.PutCallOf(TrapAddress(500));
     EXPECT_EQ(FindingBy([&] { small.guest.CallBack(function); }).kind, FindingKind::Misuse);
 }

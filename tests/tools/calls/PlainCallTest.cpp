@@ -107,6 +107,14 @@ TEST_F(PlainCallTest, AStructureThatIsReadHasToBeDefined)
     EXPECT_EQ(seen[0], reinterpret_cast<std::uintptr_t>(small.Memory().Host(SmallGuest::data)));
 }
 
+TEST_F(PlainCallTest, AllOfTheBytesHaveToBeDefined)
+{
+    small.Memory().MarkDefined(SmallGuest::data + 1, 7);
+    Call("u bu", SmallGuest::data + 1, 7);
+    EXPECT_EQ(seen[0], reinterpret_cast<std::uintptr_t>(small.Memory().Host(SmallGuest::data + 1)));
+    EXPECT_EQ(FindingBy([&] { Call("u bu", SmallGuest::data + 1, 8); }).kind, FindingKind::Undefined);
+}
+
 TEST_F(PlainCallTest, CookiesStandForObjects)
 {
     answer = 0x0000123400005678;
@@ -127,6 +135,7 @@ TEST_F(PlainCallTest, SystemColoursNeedTheDevicesMark)
     EXPECT_EQ(seen[0], 0xFFFFFFFFFFFF1234u);
     EXPECT_EQ(FindingBy([&] { Call("u c", 5); }).kind, FindingKind::Misuse);
     EXPECT_EQ(FindingBy([&] { Call("u r", 6); }).kind, FindingKind::Misuse);
+    EXPECT_EQ(FindingBy([&] { Call("u r", 0x100); }).kind, FindingKind::Misuse);
 }
 
 TEST_F(PlainCallTest, AParameterThatNobodyWroteIsFound)

@@ -112,4 +112,15 @@ TEST(BranchTest, CallsThatReturnedAreForgotten)
     EXPECT_TRUE(finding.callers.empty());
 }
 
+// While a call is served, its place is known, and is none of its own callers.
+TEST(BranchTest, ACallOutIsNoCaller)
+{
+    Guest guest;
+    // A function that pushes and calls out through a pointer.
+    guest.Run({0xE92D4010, 0xE59F300C, 0xE1A0E00F, 0xE12FFF13, 0xE1A08008, 0xE1A08008,
+               TrapAddress(Guest::endTrap)});
+    EXPECT_EQ(guest.machine.processor.Place(), Guest::code + 4 * 3);
+    EXPECT_TRUE(guest.machine.processor.Callers().empty());
+}
+
 } // namespace runner

@@ -156,6 +156,24 @@ TEST(HeapTest, ALongRunFitsIn)
     EXPECT_NE(heap.Allocate(Guest::heapSize - 0x1000, caller), 0u);
 }
 
+// Room is made of the older half of the freed blocks.
+TEST(HeapTest, WhatWasFreedLatelyIsKnownLongest)
+{
+    Guest guest;
+    GuestHeap& heap = guest.machine.heap;
+    constexpr Word quarter = Guest::heapSize / 4 - 0x100;
+    Address blocks[4];
+    for (Address& block : blocks) {
+        block = heap.Allocate(quarter, caller);
+    }
+    for (const Address block : blocks) {
+        heap.Free(block, caller);
+    }
+    EXPECT_NE(heap.Allocate(quarter, caller), 0u);
+    EXPECT_EQ(Touch(guest, load, blocks[2]).kind, FindingKind::Freed);
+    EXPECT_EQ(Touch(guest, load, blocks[3]).kind, FindingKind::Freed);
+}
+
 TEST(HeapTest, AFullHeapGivesNothing)
 {
     Guest guest;

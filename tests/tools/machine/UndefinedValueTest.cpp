@@ -100,6 +100,9 @@ TEST(UndefinedValueTest, LogicIsExactToTheBit)
     EXPECT_EQ(UndefinedAfter({0xE20024FF, 0xE1A02442}, 2), 0xFFFF0000u);
     EXPECT_EQ(UndefinedAfter({0xE20020FF, 0xE1A02262}, 2), 0xF000000Fu);
     EXPECT_EQ(UndefinedAfter({0xE3A02001, 0xE1A02012}, 2), allBits);
+    // Only the lowest byte of a distance counts.
+    EXPECT_EQ(UndefinedAfter({0xE20030FF, 0xE3A02001, 0xE1A02312}, 2), allBits);
+    EXPECT_EQ(UndefinedAfter({0xE3C030FF, 0xE3A02001, 0xE1A02312}, 2), 0u);
 }
 
 // A sum is known below its lowest unknown bit.

@@ -83,8 +83,7 @@ void Guest::CheckKept(const Registers& before, Address function)
 {
     for (unsigned index = firstKept; index <= StackRegister; index++) {
         if (index != ScratchRegister && machine.processor.Register(index) != before.Bits(index)) {
-            Misuse("r" + std::to_string(index) + " comes back changed from " + symbols.NameOf(function) +
-                   " (" + Hex(function) + ")");
+            Misuse("r" + std::to_string(index) + " comes back changed from " + PlaceText(function, &symbols));
         }
     }
 }
@@ -94,7 +93,7 @@ Word Guest::RunFrom(Address place)
     for (;;) {
         const Word trap = machine.processor.Run(place);
         if (trap == 0) {
-            return machine.processor.Register(0);
+            return machine.processor.Argument(0); // which somebody waits for
         }
         place = Serve(trap);
     }

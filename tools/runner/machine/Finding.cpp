@@ -15,7 +15,7 @@ static std::string Hex(Word number)
     return text;
 }
 
-static std::string PlaceText(Address address, const Symbols* symbols)
+std::string PlaceText(Address address, const Symbols* symbols)
 {
     const std::string name = symbols ? symbols->NameOf(address) : "";
     return name.empty() ? Hex(address) : name + " (" + Hex(address) + ")";

@@ -61,6 +61,9 @@ struct Finding
     std::string Line(const Symbols* symbols) const;
 };
 
+// The function and the address; symbols as above.
+std::string PlaceText(Address place, const Symbols* symbols);
+
 // The process's exit code after a finding.
 inline constexpr int findingExitCode = 99;
 

@@ -100,7 +100,10 @@ Word Processor::Run(Address start)
     }
     // What is served is the caller's business, not the import stub's.
     trail.Drop(state.Bits(StackRegister));
-    place = state.Bits(LinkRegister) - wordSize;
+    // Behind a return there is no call.
+    if (state.Bits(LinkRegister) < trapBase) {
+        place = state.Bits(LinkRegister) - wordSize;
+    }
     return (next - trapBase) / wordSize;
 }
 

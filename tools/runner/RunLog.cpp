@@ -65,6 +65,9 @@ void RunLog::WriteEnd(Word exitCode)
     for (const auto& [kind, count] : guest->cookies.LiveByKind()) {
         Write(std::string("  open: ") + NameOf(kind) + " " + std::to_string(count));
     }
+    for (const auto& [handle, entry] : guest->handles.Left()) {
+        Write("  open: handle from " + guest->symbols.NameOf(entry.place));
+    }
     for (const auto& [name, sum] : guest->counts.Sections()) {
         Write("  part: " + name + " times " + std::to_string(sum.times) + " instructions " +
               std::to_string(sum.instructions) + " most " + std::to_string(sum.most) + " last " +

@@ -60,6 +60,11 @@ TEST(CookiesTest, AForgottenOneIsToldAndNeverGivenAgain)
     EXPECT_NE(next, cookie);
     EXPECT_EQ(cookies.Take(CookieKind::Key, next).state, Cookies::State::Known);
     EXPECT_EQ(cookies.Take(CookieKind::Key, cookie).state, Cookies::State::Forgotten);
+    // The object's end is not the end of the one that has its place.
+    cookies.Forget(CookieKind::Key, cookie);
+    EXPECT_EQ(cookies.Give(CookieKind::Key, object), next);
+    ASSERT_EQ(cookies.LiveEntries().size(), 1u);
+    EXPECT_EQ(cookies.LiveEntries().front().host, object);
 }
 
 TEST(CookiesTest, TheLiveOnesAreCountedByTheirKinds)

@@ -44,7 +44,7 @@ static Word DoCreateDibSection(Call& call)
     if (bitmap && call.Argument(3) != 0) {
         call.guest.machine.memory.Write(call.Argument(3), elsewhere);
     }
-    return WordOf(bitmap);
+    return call.Given(WordOf(bitmap));
 }
 
 static Word DoGetObject(Call& call)
@@ -82,12 +82,12 @@ static Word DoCreateFont(Call& call)
     LOGFONTW font;
     std::memcpy(&font, call.guest.machine.memory.Checked(record.At(), 4, sizeof font, Access::Look),
                 sizeof font);
-    return WordOf(CreateFontIndirectW(&font));
+    return call.Given(WordOf(CreateFontIndirectW(&font)));
 }
 
 static constexpr Bridge graphicObjectRows[] = {
-    {"CreateCompatibleBitmap", "h hii"},   {"CreateDIBSection", DoCreateDibSection},
-    {"CreateFontIndirectW", DoCreateFont}, {"DeleteObject", "u h"},
+    {"CreateCompatibleBitmap", "g hii"},   {"CreateDIBSection", DoCreateDibSection},
+    {"CreateFontIndirectW", DoCreateFont}, {"DeleteObject", "u g"},
     {"GetObjectW", DoGetObject},           {"GetStockObject", "h i"},
 };
 

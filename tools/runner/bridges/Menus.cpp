@@ -15,8 +15,8 @@ static Word DoTrackPopupMenu(Call& call)
 
 static constexpr Bridge menuRows[] = {
     {"AppendMenuW", "u huht"},
-    {"CreatePopupMenu", "h"},
-    {"DestroyMenu", "u h"},
+    {"CreatePopupMenu", "g"},
+    {"DestroyMenu", "u g"},
     {"TrackPopupMenuEx", DoTrackPopupMenu},
 };
 

@@ -125,7 +125,7 @@ static Word DoCallWindowProc(Call& call)
 static constexpr Bridge queueRows[] = {
     {"CallWindowProcW", DoCallWindowProc},
     {"DefWindowProcW", DoDefWindowProc},
-    {"DestroyAcceleratorTable", "u h"},
+    {"DestroyAcceleratorTable", "u g"},
     {"DispatchMessageW", DoDispatchMessage},
     {"GetMessageW", DoGetMessage},
     {"IsDialogMessageW", DoIsDialogMessage},

@@ -29,26 +29,26 @@ static Word DoBeginPaint(Call& call)
         record.Set(&PaintStruct::erase, static_cast<Word>(paint.fErase));
         record.Set(&PaintStruct::rect, paint.rcPaint);
     }
-    return WordOf(dc);
+    return call.Given(WordOf(dc));
 }
 
 static Word DoEndPaint(Call& call)
 {
     const auto record = call.RecordAt<PaintStruct>(1);
     PAINTSTRUCT paint = {};
-    paint.hdc = HandleOf<HDC>(record.Get(&PaintStruct::dc));
+    paint.hdc = HandleOf<HDC>(call.TakenBack(record.Get(&PaintStruct::dc)));
     paint.fErase = static_cast<BOOL>(record.Get(&PaintStruct::erase));
     paint.rcPaint = record.Get(&PaintStruct::rect);
     return static_cast<Word>(EndPaint(HandleAt<HWND>(call, 0), &paint));
 }
 
 static constexpr Bridge paintingRows[] = {
-    {"BeginPaint", DoBeginPaint},  {"BitBlt", "u hiiii hiiu"},  {"CreateCompatibleDC", "h h"},
-    {"CreatePen", "h iiu"},        {"DeleteDC", "u h"},         {"DrawIconEx", "u hii hii uhu"},
-    {"EndPaint", DoEndPaint},      {"FillRect", "u hp16r"},     {"GetDC", "h h"},
+    {"BeginPaint", DoBeginPaint},  {"BitBlt", "u hiiii hiiu"},  {"CreateCompatibleDC", "g h"},
+    {"CreatePen", "g iiu"},        {"DeleteDC", "u g"},         {"DrawIconEx", "u hii hii uhu"},
+    {"EndPaint", DoEndPaint},      {"FillRect", "u hp16r"},     {"GetDC", "g h"},
     {"GetSysColor", "d c"},        {"GetSysColorBrush", "h c"}, {"IntersectClipRect", "d hiiii"},
     {"InvalidateRect", "u hp16i"}, {"LineTo", "u hii"},         {"MoveToEx", "u hiiq8"},
-    {"Rectangle", "u hiiii"},      {"ReleaseDC", "u hh"},       {"SelectObject", "h hh"},
+    {"Rectangle", "u hiiii"},      {"ReleaseDC", "u hg"},       {"SelectObject", "h hh"},
     {"SetBkColor", "d hu"},        {"SetBkMode", "d hi"},       {"SetTextColor", "d hu"},
     {"UpdateWindow", "u h"},
 };

@@ -25,7 +25,7 @@ static Word DoLoadResource(Call& call)
 }
 
 static constexpr Bridge resourceRows[] = {
-    {"FindResourceW", DoFindResource}, {"LoadAcceleratorsW", "h ms"}, {"LoadIconW", "h ms"},
+    {"FindResourceW", DoFindResource}, {"LoadAcceleratorsW", "g ms"}, {"LoadIconW", "h ms"},
     {"LoadResource", DoLoadResource},  {"LoadStringW", "u muTi"},
 };
 

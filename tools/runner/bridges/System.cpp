@@ -1,6 +1,7 @@
 // The process itself, and what the system says of the device.
 #include "tools/runner/bridges/Bridges.h"
 #include "tools/runner/bridges/Host.h"
+#include "tools/runner/calls/Leftovers.h"
 
 namespace runner {
 
@@ -31,6 +32,10 @@ static Word DoTerminateProcess(Call& call)
     }
     if (call.guest.journal) {
         call.guest.journal->WriteEnd(exitCode);
+    }
+    const std::string left = exitCode == 0 ? Leftovers(call.guest) : "";
+    if (!left.empty()) {
+        call.guest.Misuse("a program that ends well leaves " + left);
     }
     TerminateProcess(reinterpret_cast<HANDLE>(-1), exitCode);
     for (;;) {

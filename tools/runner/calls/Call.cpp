@@ -20,6 +20,20 @@ std::uint64_t Call::ObjectOf(Word cookie, CookieKind kind)
     guest.Misuse("no " + name, cookie);
 }
 
+Word Call::Given(Word handle)
+{
+    guest.handles.Give(handle, guest.machine.processor.Place());
+    return handle;
+}
+
+Word Call::TakenBack(Word handle)
+{
+    if (!guest.handles.TakeBack(handle)) {
+        guest.Misuse("a handle that the program was not given, or has given back", handle);
+    }
+    return handle;
+}
+
 std::uint64_t Call::ModuleOf(Word module)
 {
     return module == guest.image ? guest.hostResources : ObjectOf(module, CookieKind::Module);

@@ -32,9 +32,16 @@ class Call
     // The object of a cookie. Reports what is none, or is of another kind, or was closed.
     std::uint64_t Object(unsigned index, CookieKind kind) { return ObjectOf(Argument(index), kind); }
     std::uint64_t ObjectOf(Word cookie, CookieKind kind);
-    Word Cookie(CookieKind kind, std::uint64_t host) { return guest.cookies.Give(kind, host); }
+    Word Cookie(CookieKind kind, std::uint64_t host)
+    {
+        return guest.cookies.Give(kind, host, guest.machine.processor.Place());
+    }
     // What the host's resource functions take for a module of the guest's.
     std::uint64_t ModuleOf(Word module);
+
+    // A handle that the guest has to give back, and what takes it.
+    Word Given(Word handle);
+    Word TakenBack(Word handle);
 
     // ---- Memory. Null stays null.
     // A structure of the guest's; every member that is read has to be defined.

@@ -26,7 +26,7 @@ const char* NameOf(CookieKind kind)
     case CookieKind::Heap:
         return "heap";
     case CookieKind::ImageList:
-        return "image list";
+        return "list of images";
     case CookieKind::Key:
         return "registry key";
     case CookieKind::ItemList:
@@ -40,12 +40,12 @@ const char* NameOf(CookieKind kind)
     case CookieKind::Snapshot:
         return "snapshot";
     case CookieKind::TreeItem:
-        return "item of a tree";
+        return "tree's item";
     }
     return "object";
 }
 
-Word Cookies::Give(CookieKind kind, Host host)
+Word Cookies::Give(CookieKind kind, Host host, Address caller)
 {
     const Word low = static_cast<Word>(host);
     if (Extended(low) == host && IsConstant(low)) {
@@ -53,7 +53,7 @@ Word Cookies::Give(CookieKind kind, Host host)
     }
     const auto [place, isNew] = known.try_emplace({kind, host}, next);
     if (isNew) {
-        entries[next] = {kind, host, false};
+        entries[next] = {kind, host, caller};
         next += step;
     }
     return place->second;
@@ -91,6 +91,17 @@ std::map<CookieKind, std::size_t> Cookies::LiveByKind() const
         counts[object.first]++;
     }
     return counts;
+}
+
+std::vector<Cookies::Entry> Cookies::LiveEntries() const
+{
+    std::vector<Entry> live;
+    for (const auto& [cookie, entry] : entries) {
+        if (!entry.forgotten) {
+            live.push_back(entry);
+        }
+    }
+    return live;
 }
 
 } // namespace runner

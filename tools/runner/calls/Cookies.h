@@ -5,6 +5,7 @@
 
 #include <map>
 #include <utility>
+#include <vector>
 
 namespace runner {
 
@@ -43,14 +44,15 @@ class Cookies
         State state;
         Host host;
     };
-
-  private:
     struct Entry
     {
         CookieKind kind;
         Host host;
-        bool forgotten;
+        Address place; // that got it first
+        bool forgotten = false;
     };
+
+  private:
     std::map<Word, Entry> entries;
     std::map<std::pair<CookieKind, Host>, Word> known;
     Word next = 0xA0000010;
@@ -58,12 +60,14 @@ class Cookies
   public:
     // Null and the values that are constants (-1, and their like) stand for themselves. One object has one
     // cookie for as long as it is not forgotten, and no cookie is used twice.
-    Word Give(CookieKind kind, Host host);
+    Word Give(CookieKind kind, Host host, Address place = 0);
     Answer Take(CookieKind kind, Word cookie) const;
     // The object is closed: a later use is told from that of a value that never was one.
     void Forget(CookieKind kind, Word cookie);
     std::size_t Live() const { return known.size(); }
     std::map<CookieKind, std::size_t> LiveByKind() const;
+    // In the order in which they were given.
+    std::vector<Entry> LiveEntries() const;
 };
 
 } // namespace runner

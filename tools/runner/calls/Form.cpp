@@ -9,8 +9,8 @@ Form::Form(const char* form) : good(Read(form)) {}
 
 bool Form::Read(const char* form)
 {
-    static constexpr char results[] = "uihoedtv";
-    static constexpr char parameters[] = "uihomcrtsTbpqx";
+    static constexpr char results[] = "uihgoedtv";
+    static constexpr char parameters[] = "uihgomcrtsTbpqx";
     for (const char* c = form; *c != '\0';) {
         if (*c == ' ') {
             c++;

@@ -3,6 +3,7 @@
 //
 //   u   a word                          h   a handle: the host's is the word with its sign
 //   i   a number with a sign            o?  an object behind a cookie; ? is the letter of its CookieKind
+//   g   a handle that the guest has to give back: a result gives it, a parameter takes it back
 //   m   a module of which resources are taken
 //   c   index of a system colour        r   a brush, or such an index plus one
 //   t   text, read                      s   text or the number of a resource
@@ -11,8 +12,8 @@
 //   p4  a structure of 4 bytes, read    q4  one that is written when the call succeeds
 //   x4  one that is read and written
 //
-// Pointers may be null. Results: u, i, h, o? as above, where 0 is a failure; e, a word where only 0 is none;
-// d, a word that says nothing of success; t, a pointer into what the guest handed over; v, nothing.
+// Pointers may be null. Results: u, i, h, g, o? as above, where 0 is a failure; e, a word where only 0 is
+// none; d, a word that says nothing of success; t, a pointer into what the guest handed over; v, nothing.
 #pragma once
 
 #include "tools/runner/machine/Value.h"

@@ -4,6 +4,7 @@
 #include "tools/runner/calls/Bridge.h"
 #include "tools/runner/calls/Cookies.h"
 #include "tools/runner/calls/Form.h"
+#include "tools/runner/calls/GivenHandles.h"
 #include "tools/runner/machine/Counts.h"
 #include "tools/runner/machine/Machine.h"
 #include "tools/runner/machine/Symbols.h"
@@ -49,6 +50,7 @@ class Guest
   public:
     Machine machine;
     Cookies cookies;
+    GivenHandles handles;
     Symbols symbols;
     Counts counts;
     Address image = 0;               // the module that the guest calls itself

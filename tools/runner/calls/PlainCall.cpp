@@ -42,6 +42,9 @@ static std::uint64_t ParameterOf(Call& call, const Form& form, unsigned index)
     case 'i':
     case 'h':
         return call.Extended(index);
+    case 'g':
+        call.TakenBack(value);
+        return call.Extended(index);
     case 'o':
         return call.ObjectOf(value, static_cast<CookieKind>(part.kind));
     case 'm':
@@ -112,6 +115,8 @@ Word CallPlain(Call& call, const Form& form, Guest::HostFunction function)
     switch (letter) {
     case 'v':
         return call.NoResult();
+    case 'g':
+        return call.Given(word);
     case 'o':
         return call.Cookie(static_cast<CookieKind>(form.Result().kind), result);
     case 't':

@@ -45,6 +45,14 @@ static constexpr MisuseRow misuses[] = {
     {"MovableBlock", "LocalAlloc: flags of a block that the device does not have"},
     {"FunctionThatIsMissing", "no memory there"},
     {"LibraryAfterItsEnd", "GetProcAddressW: a library that was closed"},
+    {"TextWithoutItsZero", "RegSetValueExW: a text of another length than its bytes"},
+    {"NumberOfTwoBytes", "RegSetValueExW: a number of 2 bytes"},
+    {"PenDeletedTwice", "DeleteObject: a handle that the program was not given, or has given back"},
+    {"AllocatorLeft", "TerminateProcess: a program that ends well leaves COM object from AllocatorLeft"},
+    {"DialogWithoutEnd", "0 bytes behind the block of 18 bytes"},
+    {"WindowRestored", "ShowWindow: a way to show a window that the device does not have"},
+    {"ExtendedDialog", "CreateDialogIndirectParamW: an extended dialog, which the device does not have"},
+    {"TreeItemAfterItsEnd", "SendMessageW: a tree's item that was closed"},
 };
 
 TEST(BridgeMisuseTest, EveryMisuseIsFoundAndNamed)

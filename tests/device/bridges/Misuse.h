@@ -12,6 +12,8 @@ void ShortExecuteInfo();
 void ShortMemoryStatus();
 void ShortVersion();
 void ShortDisplayMode();
+void TextWithoutItsZero();
+void NumberOfTwoBytes();
 
 // Handles and objects after their end, or of another kind.
 void KeyClosedTwice();
@@ -23,6 +25,9 @@ void FileAsProcess();
 void AllocatorReleasedTwice();
 void ItemFreedTwice();
 void ImagesBlockFreed();
+void PenDeletedTwice();
+void AllocatorLeft();
+void TreeItemAfterItsEnd();
 
 // Memory that a call reads or writes.
 void ReadIntoAShortBlock();
@@ -32,6 +37,7 @@ void SizeThatNobodySet();
 void FigureOfAFailedCall();
 void CopyOntoItself();
 void ImageOfNoBlock();
+void DialogWithoutEnd();
 
 // What the device has otherwise.
 void ColourWithoutItsMark();
@@ -40,3 +46,5 @@ void WideNumberInAFormat();
 void MovableBlock();
 void FunctionThatIsMissing();
 void LibraryAfterItsEnd();
+void WindowRestored();
+void ExtendedDialog();

@@ -10,7 +10,9 @@ static void (*const misuses[])() = {
     ImagesBlockFreed,      ReadIntoAShortBlock, PatternWithoutEnd,      NameBehindItsEnd,
     SizeThatNobodySet,     FigureOfAFailedCall, CopyOntoItself,         ImageOfNoBlock,
     ColourWithoutItsMark,  BrushWithoutItsMark, WideNumberInAFormat,    MovableBlock,
-    FunctionThatIsMissing, LibraryAfterItsEnd,
+    FunctionThatIsMissing, LibraryAfterItsEnd,  TextWithoutItsZero,     NumberOfTwoBytes,
+    PenDeletedTwice,       AllocatorLeft,       DialogWithoutEnd,       WindowRestored,
+    ExtendedDialog,        TreeItemAfterItsEnd,
 };
 
 int ProgramMain(HINSTANCE, HINSTANCE, const wchar_t* commandLine, int)

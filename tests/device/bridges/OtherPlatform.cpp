@@ -54,3 +54,16 @@ void LibraryAfterItsEnd()
     FreeLibrary(library);
     GetProcAddressW(library, L"Process32First");
 }
+
+void WindowRestored()
+{
+    static constexpr int desktopRestore = 9;
+    ShowWindow(nullptr, desktopRestore);
+}
+
+void ExtendedDialog()
+{
+    static constexpr DWORD form[16] = {0xFFFF0001};
+    CreateDialogIndirectParamW(GetModuleHandleW(nullptr), reinterpret_cast<const DLGTEMPLATE*>(form), nullptr,
+                               nullptr, 0);
+}

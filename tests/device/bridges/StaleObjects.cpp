@@ -80,3 +80,36 @@ void ImagesBlockFreed()
     LocalFree(block);
     image->Release();
 }
+
+void PenDeletedTwice()
+{
+    const HPEN pen = CreatePen(PS_SOLID, 1, 0);
+    DeleteObject(pen);
+    DeleteObject(pen);
+}
+
+// A program that ends with 0 says that all went well.
+void AllocatorLeft()
+{
+    IMalloc* allocator = nullptr;
+    SHGetMalloc(&allocator);
+    TerminateProcess(GetCurrentProcess(), 0);
+}
+
+static LPARAM Insert(HWND tree, LPARAM parent)
+{
+    TVINSERTSTRUCTW insertion = {};
+    insertion.hParent = reinterpret_cast<HTREEITEM>(parent);
+    return SendMessageW(tree, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insertion));
+}
+
+// It is below the one that is deleted.
+void TreeItemAfterItsEnd()
+{
+    HWND tree = CreateWindowExW(0, WC_TREEVIEWW, nullptr, WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
+                                GetModuleHandleW(nullptr), nullptr);
+    const LPARAM upper = Insert(tree, reinterpret_cast<LPARAM>(TVI_ROOT));
+    const LPARAM lower = Insert(tree, upper);
+    SendMessageW(tree, TVM_DELETEITEM, 0, upper);
+    SendMessageW(tree, TVM_EXPAND, TVE_COLLAPSE, lower);
+}

@@ -65,3 +65,10 @@ void ImageOfNoBlock()
 {
     ImageOf(const_cast<SmallPictureFile*>(&smallPicture), sizeof smallPicture);
 }
+
+// The three words behind the header are missing: no menu, the standard class, no title.
+void DialogWithoutEnd()
+{
+    auto* form = static_cast<DLGTEMPLATE*>(LocalAlloc(LPTR, sizeof(DLGTEMPLATE)));
+    CreateDialogIndirectParamW(GetModuleHandleW(nullptr), form, nullptr, nullptr, 0);
+}

@@ -59,3 +59,21 @@ void ShortDisplayMode()
     mode.dmSize = sizeof mode + 28;
     ChangeDisplaySettingsEx(nullptr, &mode, nullptr, CDS_TEST, nullptr);
 }
+
+static void SetValue(DWORD kind, const void* data, DWORD size)
+{
+    HKEY key = nullptr;
+    RegOpenKeyExW(HKEY_CURRENT_USER, L"Software", 0, KEY_ALL_ACCESS, &key);
+    RegSetValueExW(key, L"QuorvaneMisuse", 0, kind, static_cast<const BYTE*>(data), size);
+}
+
+void TextWithoutItsZero()
+{
+    SetValue(REG_SZ, L"four", 8);
+}
+
+void NumberOfTwoBytes()
+{
+    const DWORD number = 5;
+    SetValue(REG_DWORD, &number, 2);
+}

@@ -74,6 +74,23 @@ static Word DoQueryValue(Call& call)
     return static_cast<Word>(result);
 }
 
+static Word DoSetValue(Call& call)
+{
+    const Word kind = call.Argument(3);
+    const Address data = call.Argument(4);
+    const Word size = call.Argument(5);
+    const void* bytes = call.In(data, size, 1);
+    if (kind == REG_DWORD && size != sizeof(DWORD)) {
+        call.guest.Misuse("a number of " + std::to_string(size) + " bytes", data);
+    }
+    // Who reads it may rely on the zero.
+    if (kind == REG_SZ && call.guest.machine.memory.Text(data).size() != size / sizeof(wchar_t) - 1) {
+        call.guest.Misuse("a text of another length than its bytes", data);
+    }
+    return static_cast<Word>(RegSetValueExW(KeyArgument(call), TextArgument(call, 1), call.Argument(2), kind,
+                                            static_cast<const BYTE*>(bytes), size));
+}
+
 static Word DoEnumKey(Call& call)
 {
     const auto size = call.RecordAt<Word>(3);
@@ -100,7 +117,7 @@ static constexpr Bridge registryRows[] = {
     {"RegOpenKeyExW", DoOpenKey},
     {"RegQueryInfoKeyW", "e oKtp4p4q4q4q4q4q4q4q4q8"},
     {"RegQueryValueExW", DoQueryValue},
-    {"RegSetValueExW", "e oKtuubu"},
+    {"RegSetValueExW", DoSetValue},
 };
 
 Bridges RegistryBridges()

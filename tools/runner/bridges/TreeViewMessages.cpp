@@ -117,14 +117,31 @@ static Word WithItem(const Outgoing& out)
     return static_cast<Word>(out.DeliverWith(out.wParam, reinterpret_cast<LPARAM>(ItemOf(out, out.lParam))));
 }
 
+// What is below an item goes with it.
+static void ForgetFrom(const Outgoing& out, HTREEITEM item)
+{
+    HTREEITEM child = item == TVI_ROOT ? TreeView_GetRoot(out.window) : TreeView_GetChild(out.window, item);
+    for (; child != nullptr; child = TreeView_GetNextSibling(out.window, child)) {
+        ForgetFrom(out, child);
+    }
+    out.call.guest.cookies.Forget(CookieKind::TreeItem, CookieFor(out, reinterpret_cast<LRESULT>(item)));
+}
+
+static Word DeleteItem(const Outgoing& out)
+{
+    const HTREEITEM item = ItemOf(out, out.lParam);
+    ForgetFrom(out, item);
+    return static_cast<Word>(out.DeliverWith(out.wParam, reinterpret_cast<LPARAM>(item)));
+}
+
 static Word GetNextItem(const Outgoing& out)
 {
     return CookieFor(out, out.DeliverWith(out.wParam, reinterpret_cast<LPARAM>(ItemOf(out, out.lParam))));
 }
 
 static constexpr MessageBridge treeViewMessageRows[] = {
-    {TVM_DELETEITEM, WithItem}, {TVM_ENSUREVISIBLE, WithItem},  {TVM_EXPAND, WithItem},
-    {TVM_GETITEMW, GetItem},    {TVM_GETNEXTITEM, GetNextItem}, {TVM_INSERTITEMW, Insert},
+    {TVM_DELETEITEM, DeleteItem}, {TVM_ENSUREVISIBLE, WithItem},  {TVM_EXPAND, WithItem},
+    {TVM_GETITEMW, GetItem},      {TVM_GETNEXTITEM, GetNextItem}, {TVM_INSERTITEMW, Insert},
     {TVM_SELECTITEM, WithItem},
 };
 

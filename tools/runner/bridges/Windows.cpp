@@ -4,6 +4,8 @@
 #include "tools/runner/bridges/WindowProcedures.h"
 #include "tools/runner/calls/PlainCall.h"
 
+#include <algorithm>
+
 namespace runner {
 
 namespace {
@@ -121,6 +123,18 @@ static Word DoSetWindowLong(Call& call)
     }
 }
 
+// The device has other numbers for restoring and maximising, and not all of the desktop's ways.
+static Word DoShowWindow(Call& call)
+{
+    static constexpr int ofBoth[] = {SW_HIDE, SW_SHOWNORMAL, SW_SHOWNOACTIVATE,
+                                     SW_SHOW, SW_MINIMIZE,   SW_SHOWNA};
+    const int way = call.Signed(1);
+    if (std::find(std::begin(ofBoth), std::end(ofBoth), way) == std::end(ofBoth)) {
+        call.guest.Misuse("a way to show a window that the device does not have", static_cast<Word>(way));
+    }
+    return static_cast<Word>(ShowWindow(HandleAt<HWND>(call, 0), way));
+}
+
 static Word DoMapWindowPoints(Call& call)
 {
     const Word count = call.Argument(3);
@@ -158,7 +172,7 @@ static constexpr Bridge windowRows[] = {
     {"SetWindowLongW", DoSetWindowLong},
     {"SetWindowPos", "u hhiiiiu"},
     {"SetWindowTextW", "u ht"},
-    {"ShowWindow", "d hi"},
+    {"ShowWindow", DoShowWindow},
 };
 
 Bridges WindowBridges()

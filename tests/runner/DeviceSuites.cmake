@@ -26,5 +26,7 @@ function(qv_add_device_suite source)
         qv_entry_name(name device-e2e.${suite} ${profile} ${profiles})
         qv_add_entry(${name} ${suite} EXECUTABLE ${ARG_BUILD}/bin/e2e_tests.exe BUILD ${ARG_BUILD} LABEL runner
             TIMEOUT 120 PROFILE ${profile} FIXTURE runner_folder ${configurations})
+        # Also when the program was no longer needed where it was found.
+        set_tests_properties(${name} PROPERTIES FAIL_REGULAR_EXPRESSION "FINDING: ;HOST FAULT")
     endforeach()
 endfunction()

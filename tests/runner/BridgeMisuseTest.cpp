@@ -53,6 +53,23 @@ static constexpr MisuseRow misuses[] = {
     {"WindowRestored", "ShowWindow: a way to show a window that the device does not have"},
     {"ExtendedDialog", "CreateDialogIndirectParamW: an extended dialog, which the device does not have"},
     {"TreeItemAfterItsEnd", "SendMessageW: a tree's item that was closed"},
+    {"ShortHeapList", "Heap32ListFirst: a structure of 0 bytes; the device's has 16"},
+    {"ShortMenuBar", "SHCreateMenuBar: a structure of 56 bytes; the device's has 36"},
+    {"ShortGesture", "SHRecognizeGesture: a structure of 0 bytes; the device's has 20"},
+    {"ShortActivation", "SHHandleWMActivate: a structure of 0 bytes; the device's has 12"},
+    {"ShortBitmap", "GetObjectW: a structure of 20 bytes; the device's has 24"},
+    {"ShortClasses", "InitCommonControlsEx: a structure of 4 bytes; the device's has 8"},
+    {"ContextDeletedTwice", "DeleteDC: a handle that the program was not given, or has given back"},
+    {"DialogWithoutItsControl", "0 bytes behind the block of 24 bytes"},
+    {"ValueThatDidNotFit", "the value was never written"},
+    {"LowerCaseWithoutEnd", "0 bytes behind the block of 2 bytes"},
+    {"SortOfTooMany", "0 bytes behind the block of 16 bytes"},
+    {"ColumnOfTheDesktop", "SendMessageW: a mask of a list's column that the device does not have"},
+    {"RowOfTheDesktop", "SendMessageW: a mask of a list's item that the device does not have"},
+    {"TreeItemOfTheDesktop", "SendMessageW: a mask of a tree's item that the device does not have"},
+    {"ByteBehindTheFile", "the value was never written"},
+    {"CharacterBehindTheFormat", "the value was never written"},
+    {"ShortFindData", "0 bytes behind the block of 100 bytes"},
 };
 
 TEST(BridgeMisuseTest, EveryMisuseIsFoundAndNamed)

@@ -14,6 +14,13 @@ void ShortVersion();
 void ShortDisplayMode();
 void TextWithoutItsZero();
 void NumberOfTwoBytes();
+void ShortHeapList();
+void ShortMenuBar();
+void ShortGesture();
+void ShortActivation();
+void ShortBitmap();
+void ShortClasses();
+void ShortFindData();
 
 // Handles and objects after their end, or of another kind.
 void KeyClosedTwice();
@@ -27,6 +34,7 @@ void ItemFreedTwice();
 void ImagesBlockFreed();
 void PenDeletedTwice();
 void AllocatorLeft();
+void ContextDeletedTwice();
 void TreeItemAfterItsEnd();
 
 // Memory that a call reads or writes.
@@ -38,6 +46,12 @@ void FigureOfAFailedCall();
 void CopyOntoItself();
 void ImageOfNoBlock();
 void DialogWithoutEnd();
+void DialogWithoutItsControl();
+void ValueThatDidNotFit();
+void LowerCaseWithoutEnd();
+void SortOfTooMany();
+void ByteBehindTheFile();
+void CharacterBehindTheFormat();
 
 // What the device has otherwise.
 void ColourWithoutItsMark();
@@ -48,3 +62,6 @@ void FunctionThatIsMissing();
 void LibraryAfterItsEnd();
 void WindowRestored();
 void ExtendedDialog();
+void ColumnOfTheDesktop();
+void RowOfTheDesktop();
+void TreeItemOfTheDesktop();

@@ -32,6 +32,15 @@ void WideNumberInAFormat()
     Format(text, L"%d %I64u", 1, static_cast<uint64_t>(5));
 }
 
+void CharacterBehindTheFormat()
+{
+    wchar_t* text = Hidden(new wchar_t[32]);
+    Format(text, L"%d", 5);
+    if (text[2] == 5) {
+        Sleep(1);
+    }
+}
+
 void MovableBlock()
 {
     LocalAlloc(LMEM_MOVEABLE, 4);
@@ -66,4 +75,31 @@ void ExtendedDialog()
     static constexpr DWORD form[16] = {0xFFFF0001};
     CreateDialogIndirectParamW(GetModuleHandleW(nullptr), reinterpret_cast<const DLGTEMPLATE*>(form), nullptr,
                                nullptr, 0);
+}
+
+static HWND Control(const wchar_t* className)
+{
+    return CreateWindowExW(0, className, nullptr, WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
+                           GetModuleHandleW(nullptr), nullptr);
+}
+
+void ColumnOfTheDesktop()
+{
+    LVCOLUMNW column = {};
+    column.mask = 0x40; // a least width
+    SendMessageW(Control(WC_LISTVIEWW), LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+}
+
+void RowOfTheDesktop()
+{
+    LVITEMW item = {};
+    item.mask = 0x100; // a group
+    SendMessageW(Control(WC_LISTVIEWW), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+void TreeItemOfTheDesktop()
+{
+    TVINSERTSTRUCTW insertion = {};
+    insertion.item.mask = 0x80; // a height
+    SendMessageW(Control(WC_TREEVIEWW), TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insertion));
 }

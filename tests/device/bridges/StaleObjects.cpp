@@ -113,3 +113,10 @@ void TreeItemAfterItsEnd()
     SendMessageW(tree, TVM_DELETEITEM, 0, upper);
     SendMessageW(tree, TVM_EXPAND, TVE_COLLAPSE, lower);
 }
+
+void ContextDeletedTwice()
+{
+    const HDC context = CreateCompatibleDC(nullptr);
+    DeleteDC(context);
+    DeleteDC(context);
+}

@@ -11,13 +11,29 @@ static const wchar_t* OwnPath()
     return ownPath;
 }
 
+static HANDLE OpenOwn()
+{
+    return CreateFileW(OwnPath(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                       FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
 void ReadIntoAShortBlock()
 {
-    const HANDLE file = CreateFileW(OwnPath(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
     DWORD delivered = 0;
     BYTE* block = Hidden(new BYTE[8]);
-    ReadFile(file, block, 9, &delivered, nullptr);
+    ReadFile(OpenOwn(), block, 9, &delivered, nullptr);
+}
+
+void ByteBehindTheFile()
+{
+    const HANDLE file = OpenOwn();
+    DWORD delivered = 0;
+    BYTE* block = Hidden(new BYTE[2]);
+    SetFilePointer(file, -1, nullptr, FILE_END);
+    ReadFile(file, block, 2, &delivered, nullptr);
+    if (block[1] == 5) {
+        Sleep(1);
+    }
 }
 
 void PatternWithoutEnd()
@@ -27,6 +43,12 @@ void PatternWithoutEnd()
     pattern[0] = L'\\';
     pattern[1] = L'*';
     FindFirstFileW(pattern, &found);
+}
+
+// The name that is found would fit in.
+void ShortFindData()
+{
+    FindFirstFileW(OwnPath(), reinterpret_cast<WIN32_FIND_DATAW*>(Hidden(new BYTE[100])));
 }
 
 void NameBehindItsEnd()
@@ -71,4 +93,43 @@ void DialogWithoutEnd()
 {
     auto* form = static_cast<DLGTEMPLATE*>(LocalAlloc(LPTR, sizeof(DLGTEMPLATE)));
     CreateDialogIndirectParamW(GetModuleHandleW(nullptr), form, nullptr, nullptr, 0);
+}
+
+void DialogWithoutItsControl()
+{
+    auto* words = static_cast<WORD*>(LocalAlloc(LPTR, sizeof(DLGTEMPLATE) + 6));
+    reinterpret_cast<DLGTEMPLATE*>(words)->cdit = 1;
+    CreateDialogIndirectParamW(GetModuleHandleW(nullptr), reinterpret_cast<const DLGTEMPLATE*>(words),
+                               nullptr, nullptr, 0);
+}
+
+void ValueThatDidNotFit()
+{
+    HKEY key = nullptr;
+    const DWORD number = 5;
+    RegOpenKeyExW(HKEY_CURRENT_USER, L"Software", 0, KEY_ALL_ACCESS, &key);
+    RegSetValueExW(key, L"QuorvaneMisuse", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number), 4);
+    DWORD size = 2;
+    WORD* room = Hidden(new WORD[1]);
+    RegQueryValueExW(key, L"QuorvaneMisuse", nullptr, nullptr, reinterpret_cast<BYTE*>(room), &size);
+    if (*room == 5) {
+        Sleep(1);
+    }
+}
+
+void LowerCaseWithoutEnd()
+{
+    wchar_t* text = Hidden(new wchar_t[1]);
+    *text = L'A';
+    _wcslwr(text);
+}
+
+static int Compare(const void* /*first*/, const void* /*second*/)
+{
+    return 0;
+}
+
+void SortOfTooMany()
+{
+    qsort(LocalAlloc(LPTR, 16), 5, 4, Compare);
 }

@@ -77,3 +77,43 @@ void NumberOfTwoBytes()
     const DWORD number = 5;
     SetValue(REG_DWORD, &number, 2);
 }
+
+void ShortHeapList()
+{
+    HEAPLIST32 list = {};
+    Heap32ListFirst(CreateToolhelp32Snapshot(TH32CS_SNAPHEAPLIST, 0), &list);
+}
+
+// The size that it has on a PC of 64 bits.
+void ShortMenuBar()
+{
+    SHMENUBARINFO info = {};
+    info.cbSize = 56;
+    SHCreateMenuBar(&info);
+}
+
+void ShortGesture()
+{
+    SHRGINFO gesture = {};
+    SHRecognizeGesture(&gesture);
+}
+
+void ShortActivation()
+{
+    SHACTIVATEINFO info = {};
+    SHHandleWMActivate(nullptr, 0, 0, &info, 0);
+}
+
+void ShortBitmap()
+{
+    BITMAP bitmap = {};
+    GetObjectW(CreateCompatibleBitmap(GetDC(nullptr), 1, 1), sizeof bitmap - 4, &bitmap);
+}
+
+void ShortClasses()
+{
+    const INITCOMMONCONTROLSEX classes = {4, ICC_TREEVIEW_CLASSES};
+    const HMODULE library = LoadLibraryW(L"commctrl.dll");
+    auto* function = reinterpret_cast<void*>(GetProcAddressW(library, L"InitCommonControlsEx"));
+    reinterpret_cast<BOOL (*)(const INITCOMMONCONTROLSEX*)>(function)(&classes);
+}

@@ -40,10 +40,16 @@ static Word NoMore()
     return FALSE;
 }
 
-static Word WalkHeaps(Call& call, BOOL(WINAPI* next)(HANDLE, HEAPLIST32*))
+static Record<HEAPLIST32> ListArgument(Call& call)
 {
     const auto record = call.RecordAt<HEAPLIST32>(1);
     NeedSize(call, record.Get(&HEAPLIST32::dwSize), sizeof(HEAPLIST32));
+    return record;
+}
+
+static Word WalkHeaps(Call& call, BOOL(WINAPI* next)(HANDLE, HEAPLIST32*))
+{
+    const auto record = ListArgument(call);
     HEAPLIST32 list = {};
     list.dwSize = sizeof(list);
     const BOOL result = next(HeapSnapshotArgument(call), &list);
@@ -56,9 +62,7 @@ static Word WalkHeaps(Call& call, BOOL(WINAPI* next)(HANDLE, HEAPLIST32*))
 static Word DoListFirst(Call& call)
 {
     if (IsOwn(call)) {
-        const auto record = call.RecordAt<HEAPLIST32>(1);
-        NeedSize(call, record.Get(&HEAPLIST32::dwSize), sizeof(HEAPLIST32));
-        record.SetAll({sizeof(HEAPLIST32), GetCurrentProcessId(), ownHeap, 0});
+        ListArgument(call).SetAll({sizeof(HEAPLIST32), GetCurrentProcessId(), ownHeap, 0});
         return TRUE;
     }
     return WalkHeaps(call, Heap32ListFirst);

@@ -70,6 +70,11 @@ static constexpr MisuseRow misuses[] = {
     {"ByteBehindTheFile", "the value was never written"},
     {"CharacterBehindTheFormat", "the value was never written"},
     {"ShortFindData", "0 bytes behind the block of 100 bytes"},
+    {"SelectedPenDeleted", "DeleteObject: an object that is still selected"},
+    {"ComEndedBeforeAnImage", "CoUninitialize: objects of COM are still held"},
+    {"ComEndedTwice", "CoUninitialize: COM has not been started"},
+    {"SizeOfNoImages", "the value was never written"},
+    {"ProcessOfAFailedStart", "the value was never written"},
 };
 
 TEST(BridgeMisuseTest, EveryMisuseIsFoundAndNamed)

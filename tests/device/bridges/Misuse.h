@@ -21,6 +21,8 @@ void ShortActivation();
 void ShortBitmap();
 void ShortClasses();
 void ShortFindData();
+void SizeOfNoImages();
+void ProcessOfAFailedStart();
 
 // Handles and objects after their end, or of another kind.
 void KeyClosedTwice();
@@ -35,6 +37,9 @@ void ImagesBlockFreed();
 void PenDeletedTwice();
 void AllocatorLeft();
 void ContextDeletedTwice();
+void SelectedPenDeleted();
+void ComEndedBeforeAnImage();
+void ComEndedTwice();
 void TreeItemAfterItsEnd();
 
 // Memory that a call reads or writes.

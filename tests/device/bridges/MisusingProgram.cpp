@@ -58,6 +58,11 @@ static void (*const misuses[])() = {
     ByteBehindTheFile,
     CharacterBehindTheFormat,
     ShortFindData,
+    SelectedPenDeleted,
+    ComEndedBeforeAnImage,
+    ComEndedTwice,
+    SizeOfNoImages,
+    ProcessOfAFailedStart,
 };
 
 int ProgramMain(HINSTANCE, HINSTANCE, const wchar_t* commandLine, int)

@@ -120,3 +120,26 @@ void ContextDeletedTwice()
     DeleteDC(context);
     DeleteDC(context);
 }
+
+void SelectedPenDeleted()
+{
+    const HDC context = CreateCompatibleDC(nullptr);
+    const HPEN pen = CreatePen(PS_SOLID, 1, 0);
+    SelectObject(context, pen);
+    DeleteObject(pen);
+}
+
+void ComEndedBeforeAnImage()
+{
+    void* block = LocalAlloc(LMEM_FIXED, sizeof smallPicture);
+    memcpy(block, &smallPicture, sizeof smallPicture);
+    ImageOf(block, sizeof smallPicture); // which starts it
+    CoUninitialize();
+}
+
+void ComEndedTwice()
+{
+    CoInitializeEx(nullptr, 0);
+    CoUninitialize();
+    CoUninitialize();
+}

@@ -133,3 +133,25 @@ void SortOfTooMany()
 {
     qsort(LocalAlloc(LPTR, 16), 5, 4, Compare);
 }
+
+void SizeOfNoImages()
+{
+    int* size = Hidden(new int[2]);
+    ImageList_GetIconSize(nullptr, size, size + 1);
+    if (size[1] == 5) {
+        Sleep(1);
+    }
+}
+
+void ProcessOfAFailedStart()
+{
+    auto* start = Hidden(new SHELLEXECUTEINFOW);
+    memset(start, 0, offsetof(SHELLEXECUTEINFOW, hProcess));
+    start->cbSize = sizeof *start;
+    start->fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
+    start->lpFile = L"\\no such file";
+    ShellExecuteEx(start);
+    if (start->hProcess) {
+        Sleep(1);
+    }
+}

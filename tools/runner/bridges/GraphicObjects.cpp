@@ -85,9 +85,35 @@ static Word DoCreateFont(Call& call)
     return call.Given(WordOf(CreateFontIndirectW(&font)));
 }
 
+static bool IsSelectedInto(HDC context, HGDIOBJ object)
+{
+    const DWORD kind = GetObjectType(context);
+    if (kind != OBJ_DC && kind != OBJ_MEMDC) {
+        return false;
+    }
+    for (const UINT type : {OBJ_PEN, OBJ_BRUSH, OBJ_FONT, OBJ_BITMAP}) {
+        if (GetCurrentObject(context, type) == object) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// The desktop deletes an object that is selected when it is so no more; the device refuses it, and it stays.
+static Word DoDeleteObject(Call& call)
+{
+    const auto object = HandleOf<HGDIOBJ>(call.TakenBack(call.Argument(0)));
+    for (const auto& [handle, entry] : call.guest.handles.Left()) {
+        if (object && IsSelectedInto(HandleOf<HDC>(handle), object)) {
+            call.guest.Misuse("an object that is still selected", call.Argument(0));
+        }
+    }
+    return static_cast<Word>(DeleteObject(object));
+}
+
 static constexpr Bridge graphicObjectRows[] = {
     {"CreateCompatibleBitmap", "g hii"},   {"CreateDIBSection", DoCreateDibSection},
-    {"CreateFontIndirectW", DoCreateFont}, {"DeleteObject", "u g"},
+    {"CreateFontIndirectW", DoCreateFont}, {"DeleteObject", DoDeleteObject},
     {"GetObjectW", DoGetObject},           {"GetStockObject", "h i"},
 };
 

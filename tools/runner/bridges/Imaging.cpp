@@ -74,10 +74,32 @@ static Word DoCreateInstance(Call& call)
     return static_cast<Word>(result);
 }
 
+static unsigned comStarts = 0;
+
+static Word DoStartCom(Call& call)
+{
+    const HRESULT result = CoInitializeEx(reinterpret_cast<void*>(call.Extended(0)), call.Argument(1));
+    comStarts += SUCCEEDED(result) ? 1 : 0;
+    return static_cast<Word>(result);
+}
+
+// The library goes with the last end, and the code of its objects with it.
+static Word DoEndCom(Call& call)
+{
+    if (comStarts == 0) {
+        call.guest.Misuse("COM has not been started");
+    }
+    if (--comStarts == 0 && call.guest.cookies.LiveByKind().contains(CookieKind::Com)) {
+        call.guest.Misuse("objects of COM are still held");
+    }
+    CoUninitialize();
+    return call.NoResult();
+}
+
 static constexpr Bridge imagingRows[] = {
     {"CoCreateInstance", DoCreateInstance},
-    {"CoInitializeEx", "d uu"},
-    {"CoUninitialize", "v"},
+    {"CoInitializeEx", DoStartCom},
+    {"CoUninitialize", DoEndCom},
 };
 
 Bridges ImagingBridges()

@@ -74,7 +74,7 @@ static Word DoShellExecute(Call& call)
     info.nShow = record.Get(&ExecuteInfo::show);
     const BOOL result = ShellExecuteEx(&info);
     record.Set(&ExecuteInfo::instance, WordOf(info.hInstApp));
-    if ((info.fMask & SEE_MASK_NOCLOSEPROCESS) != 0) {
+    if (result && (info.fMask & SEE_MASK_NOCLOSEPROCESS) != 0) {
         record.Set(&ExecuteInfo::process, CookieOf(call, CookieKind::Process, info.hProcess));
     }
     return static_cast<Word>(result);
@@ -123,7 +123,7 @@ static Word DoGetMalloc(Call& call)
 
 static constexpr Bridge shellRows[] = {
     {"ImageList_Draw", "u oIihiiu"},
-    {"ImageList_GetIconSize", "d oIq4q4"},
+    {"ImageList_GetIconSize", "u oIq4q4"},
     {"SHGetFileInfo", DoFileInfo},
     {"SHGetMalloc", DoGetMalloc},
     {"SHGetPathFromIDList", DoPathOfItem},

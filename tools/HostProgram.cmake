@@ -46,3 +46,21 @@ function(qv_host_program name path)
     add_custom_target(${name} ALL DEPENDS ${program})
     set(${path} ${program} PARENT_SCOPE)
 endfunction()
+
+# qv_host_tests(<name> PREFIX ... TESTS ... [SOURCES ...] [DEFINITIONS ...]): a program of GoogleTest, and the ctest entries
+# <prefix>.<suite> of its files. A file holds the suite of its name; files without one are helpers.
+function(qv_host_tests name)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "PREFIX" "TESTS;SOURCES;DEFINITIONS")
+    qv_host_program(${name} program
+        SOURCES ${ARG_TESTS} ${ARG_SOURCES}
+        DEFINITIONS ${ARG_DEFINITIONS}
+        LIBRARIES -lgtest_main -lgtest -pthread)
+    string(REGEX REPLACE "[.].*" "" label ${ARG_PREFIX})
+    foreach(source IN LISTS ARG_TESTS)
+        get_filename_component(suite ${source} NAME_WE)
+        if(suite MATCHES "Test$")
+            add_test(NAME ${ARG_PREFIX}.${suite} COMMAND ${program} --gtest_filter=${suite}.*)
+            set_tests_properties(${ARG_PREFIX}.${suite} PROPERTIES TIMEOUT 120 LABELS ${label})
+        endif()
+    endforeach()
+endfunction()

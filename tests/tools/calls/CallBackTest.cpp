@@ -44,7 +44,7 @@ TEST(CallBackTest, AKeptRegisterThatChangesIsFound)
 {
     SmallGuest small;
     const Address function = small.Put({0xE3A04001, 0xE12FFF1E}); // mov r4, #1; bx lr
-    const Finding finding = FindingBy([&] { small.guest.CallBack(function); });
+    const Finding finding = FindingOf([&] { small.guest.CallBack(function); });
     EXPECT_EQ(finding.kind, FindingKind::Misuse);
     EXPECT_NE(finding.text.find("r4"), std::string::npos) << finding.text;
     EXPECT_EQ(finding.place, function + wordSize);
@@ -54,7 +54,7 @@ TEST(CallBackTest, AStackPointerThatChangesIsFound)
 {
     SmallGuest small;
     const Address function = small.Put({0xE24DD008, 0xE12FFF1E}); // sub sp, sp, #8; bx lr
-    const Finding finding = FindingBy([&] { small.guest.CallBack(function); });
+    const Finding finding = FindingOf([&] { small.guest.CallBack(function); });
     EXPECT_NE(finding.text.find("r13"), std::string::npos) << finding.text;
 }
 
@@ -77,7 +77,7 @@ TEST(CallBackTest, WhatAFunctionWithoutAResultLeavesIsUndefined)
     // The result decides: push {lr}; ldr ip, [pc, #16]; mov lr, pc; bx ip; cmp r0, #0; moveq r0, #1; pop {pc}
     const Address function =
         small.Put({0xE52DE004, 0xE59FC010, 0xE1A0E00F, 0xE12FFF1C, 0xE3500000, 0x03A00001, 0xE49DF004, trap});
-    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(function); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { small.guest.CallBack(function); }).kind, FindingKind::Undefined);
 }
 
 // The system leaves anything in the registers and flags that it hands nothing over in.
@@ -86,16 +86,16 @@ TEST(CallBackTest, WhatNobodyHandsOverIsUndefined)
     SmallGuest small;
     const Address scratch =
         small.Put({0xE35C0000, 0x03A00001, 0xE12FFF1E}); // cmp ip, #0; moveq r0, #1; bx lr
-    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(scratch); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { small.guest.CallBack(scratch); }).kind, FindingKind::Undefined);
     const Address flags = small.Put({0x03A00001, 0xE12FFF1E}); // moveq r0, #1; bx lr
-    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(flags); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { small.guest.CallBack(flags); }).kind, FindingKind::Undefined);
 }
 
 TEST(CallBackTest, AResultThatNobodyWroteIsFound)
 {
     SmallGuest small;
     const Address function = small.Put({0xE1A0000C, 0xE12FFF1E}); // mov r0, ip; bx lr
-    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(function); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { small.guest.CallBack(function); }).kind, FindingKind::Undefined);
 }
 
 TEST(CallBackTest, TheEntrysStackIsAlignedToFourBytesOnly)
@@ -109,9 +109,9 @@ TEST(CallBackTest, AnAddressThatIsNoImportsIsFound)
 {
     SmallGuest small;
     const Address behind = small.PutCallOf(small.guest.AddTrap("Last", {"Last", "u"}) + wordSize);
-    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(behind); }).address, TrapAddress(2));
+    EXPECT_EQ(FindingOf([&] { small.guest.CallBack(behind); }).address, TrapAddress(2));
     const Address function = small.PutCallOf(TrapAddress(500));
-    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(function); }).kind, FindingKind::Misuse);
+    EXPECT_EQ(FindingOf([&] { small.guest.CallBack(function); }).kind, FindingKind::Misuse);
 }
 
 } // namespace runner

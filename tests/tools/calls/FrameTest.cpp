@@ -28,7 +28,7 @@ TEST(FrameTest, DataLieBelowTheStackPointerUntilTheFrameEnds)
         EXPECT_EQ(frame.PushText(nullptr), 0u);
     }
     EXPECT_EQ(small.guest.machine.processor.Register(StackRegister), before);
-    EXPECT_EQ(FindingBy([&] { small.Memory().Read<Word>(place); }).kind, FindingKind::BelowStack);
+    EXPECT_EQ(FindingOf([&] { small.Memory().Read<Word>(place); }).kind, FindingKind::BelowStack);
     EXPECT_FALSE(small.Memory().IsDefined(place, sizeof(Pair)));
 }
 
@@ -37,7 +37,7 @@ TEST(FrameTest, ReservedRoomIsUndefined)
     SmallGuest small;
     Frame frame(small.guest);
     const Address room = frame.Reserve(64);
-    EXPECT_EQ(FindingBy([&] { small.Memory().Read<Word>(room + 8); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { small.Memory().Read<Word>(room + 8); }).kind, FindingKind::Undefined);
 }
 
 } // namespace runner

@@ -29,13 +29,13 @@ TEST_F(GivenHandlesTest, OneIsGivenBackOnce)
     EXPECT_EQ(small.guest.handles.Left().size(), 1u);
     EXPECT_EQ(Call("u g", 0xFFFF0010), 0xFFFF0010u);
     EXPECT_TRUE(small.guest.handles.Left().empty());
-    EXPECT_EQ(FindingBy([&] { Call("u g", 0xFFFF0010); }).kind, FindingKind::Misuse);
+    EXPECT_EQ(FindingOf([&] { Call("u g", 0xFFFF0010); }).kind, FindingKind::Misuse);
 }
 
 TEST_F(GivenHandlesTest, AnotherIsFound)
 {
     Call("g u", 0x10);
-    EXPECT_EQ(FindingBy([&] { Call("u g", 0x20); }).address, 0x20u);
+    EXPECT_EQ(FindingOf([&] { Call("u g", 0x20); }).address, 0x20u);
 }
 
 // A failure gives null, which may be given back.

@@ -54,16 +54,16 @@ TEST_F(PlainCallTest, TextsAreCheckedUpToTheirEnd)
     EXPECT_EQ(seen[0], reinterpret_cast<std::uintptr_t>(small.Memory().Host(text)));
     EXPECT_EQ(seen[1], 0u);
     small.Memory().MarkUndefined(text + 4, 2);
-    EXPECT_EQ(FindingBy([&] { Call("u t", text); }).kind, FindingKind::Undefined);
-    EXPECT_EQ(FindingBy([&] { Call("u t", 0x00020000); }).kind, FindingKind::Unmapped);
-    EXPECT_EQ(FindingBy([&] { Call("u t", text + 1); }).kind, FindingKind::Unaligned);
+    EXPECT_EQ(FindingOf([&] { Call("u t", text); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { Call("u t", 0x00020000); }).kind, FindingKind::Unmapped);
+    EXPECT_EQ(FindingOf([&] { Call("u t", text + 1); }).kind, FindingKind::Unaligned);
 }
 
 TEST_F(PlainCallTest, ATextMayBeTheNumberOfAResource)
 {
     Call("u s", 0x1234);
     EXPECT_EQ(seen[0], 0x1234u);
-    EXPECT_EQ(FindingBy([&] { Call("u s", SmallGuest::data); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { Call("u s", SmallGuest::data); }).kind, FindingKind::Undefined);
 }
 
 TEST_F(PlainCallTest, OfARoomForTextOnlyTheTextIsWritten)
@@ -72,7 +72,7 @@ TEST_F(PlainCallTest, OfARoomForTextOnlyTheTextIsWritten)
     Call("u Tu", SmallGuest::data, 100);
     EXPECT_EQ(small.Memory().Text(SmallGuest::data), u"abc");
     EXPECT_FALSE(small.Memory().IsDefined(SmallGuest::data + 8, 2));
-    EXPECT_EQ(FindingBy([&] { Call("u Tu", SmallGuest::data, 0x801); }).kind, FindingKind::Unmapped);
+    EXPECT_EQ(FindingOf([&] { Call("u Tu", SmallGuest::data, 0x801); }).kind, FindingKind::Unmapped);
 }
 
 TEST_F(PlainCallTest, AnUntouchedRoomStaysUndefined)
@@ -100,8 +100,8 @@ TEST_F(PlainCallTest, AStructureIsWrittenOnlyBySuccess)
 
 TEST_F(PlainCallTest, AStructureThatIsReadHasToBeDefined)
 {
-    EXPECT_EQ(FindingBy([&] { Call("u p8", SmallGuest::data); }).kind, FindingKind::Undefined);
-    EXPECT_EQ(FindingBy([&] { Call("u x8", SmallGuest::data); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { Call("u p8", SmallGuest::data); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { Call("u x8", SmallGuest::data); }).kind, FindingKind::Undefined);
     small.Memory().MarkDefined(SmallGuest::data, 8);
     Call("u p8", SmallGuest::data);
     EXPECT_EQ(seen[0], reinterpret_cast<std::uintptr_t>(small.Memory().Host(SmallGuest::data)));
@@ -112,7 +112,7 @@ TEST_F(PlainCallTest, AllOfTheBytesHaveToBeDefined)
     small.Memory().MarkDefined(SmallGuest::data + 1, 7);
     Call("u bu", SmallGuest::data + 1, 7);
     EXPECT_EQ(seen[0], reinterpret_cast<std::uintptr_t>(small.Memory().Host(SmallGuest::data + 1)));
-    EXPECT_EQ(FindingBy([&] { Call("u bu", SmallGuest::data + 1, 8); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { Call("u bu", SmallGuest::data + 1, 8); }).kind, FindingKind::Undefined);
 }
 
 TEST_F(PlainCallTest, CookiesStandForObjects)
@@ -121,9 +121,9 @@ TEST_F(PlainCallTest, CookiesStandForObjects)
     const Word cookie = Call("oS u");
     Call("u oS", cookie);
     EXPECT_EQ(seen[0], 0x0000123400005678u);
-    EXPECT_EQ(FindingBy([&] { Call("u oK", cookie); }).kind, FindingKind::Misuse);
+    EXPECT_EQ(FindingOf([&] { Call("u oK", cookie); }).kind, FindingKind::Misuse);
     small.guest.cookies.Forget(CookieKind::Snapshot, cookie);
-    EXPECT_EQ(FindingBy([&] { Call("u oS", cookie); }).kind, FindingKind::Misuse);
+    EXPECT_EQ(FindingOf([&] { Call("u oS", cookie); }).kind, FindingKind::Misuse);
 }
 
 TEST_F(PlainCallTest, SystemColoursNeedTheDevicesMark)
@@ -133,9 +133,9 @@ TEST_F(PlainCallTest, SystemColoursNeedTheDevicesMark)
     EXPECT_EQ(seen[1], 6u);
     Call("u r", 0xFFFF1234);
     EXPECT_EQ(seen[0], 0xFFFFFFFFFFFF1234u);
-    EXPECT_EQ(FindingBy([&] { Call("u c", 5); }).kind, FindingKind::Misuse);
-    EXPECT_EQ(FindingBy([&] { Call("u r", 6); }).kind, FindingKind::Misuse);
-    EXPECT_EQ(FindingBy([&] { Call("u r", 0x100); }).kind, FindingKind::Misuse);
+    EXPECT_EQ(FindingOf([&] { Call("u c", 5); }).kind, FindingKind::Misuse);
+    EXPECT_EQ(FindingOf([&] { Call("u r", 6); }).kind, FindingKind::Misuse);
+    EXPECT_EQ(FindingOf([&] { Call("u r", 0x100); }).kind, FindingKind::Misuse);
 }
 
 TEST_F(PlainCallTest, AParameterThatNobodyWroteIsFound)
@@ -144,7 +144,7 @@ TEST_F(PlainCallTest, AParameterThatNobodyWroteIsFound)
     // The second parameter comes from the page that nobody has written: push {lr}; ldr r1, [r0]; ldr ip, ...
     const Address function =
         small.Put({0xE52DE004, 0xE5901000, 0xE59FC008, 0xE1A0E00F, 0xE12FFF1C, 0xE49DF004, trap});
-    EXPECT_EQ(FindingBy([&] { small.guest.CallBack(function, SmallGuest::data); }).kind,
+    EXPECT_EQ(FindingOf([&] { small.guest.CallBack(function, SmallGuest::data); }).kind,
               FindingKind::Undefined);
 }
 

@@ -20,8 +20,8 @@ TEST(RecordTest, OnlyTheMemberInUseHasToBeDefined)
     record.Set(&Example::last, 7);
     EXPECT_EQ(record.Get(&Example::last), 7u);
     EXPECT_EQ(record.At(&Example::last), SmallGuest::data + 8);
-    EXPECT_EQ(FindingBy([&] { record.Get(&Example::first); }).kind, FindingKind::Undefined);
-    EXPECT_EQ(FindingBy([&] { record.GetAll(); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { record.Get(&Example::first); }).kind, FindingKind::Undefined);
+    EXPECT_EQ(FindingOf([&] { record.GetAll(); }).kind, FindingKind::Undefined);
     record.SetAll({1, 2, 3, 4});
     EXPECT_EQ(record.Get(&Example::half), 2u);
     EXPECT_EQ(record.GetAll().last, 4u);
@@ -39,9 +39,9 @@ TEST(RecordTest, ItsPlaceIsChecked)
 {
     SmallGuest small;
     const Record<Example> outside(small.Memory(), 0x00020000);
-    EXPECT_EQ(FindingBy([&] { outside.Set(&Example::first, 1); }).kind, FindingKind::Unmapped);
+    EXPECT_EQ(FindingOf([&] { outside.Set(&Example::first, 1); }).kind, FindingKind::Unmapped);
     const Record<Example> crooked(small.Memory(), SmallGuest::data + 2);
-    EXPECT_EQ(FindingBy([&] { crooked.Set(&Example::first, 1); }).kind, FindingKind::Unaligned);
+    EXPECT_EQ(FindingOf([&] { crooked.Set(&Example::first, 1); }).kind, FindingKind::Unaligned);
     EXPECT_FALSE(Record<Example>(small.Memory(), 0));
 }
 

@@ -6,7 +6,7 @@ namespace runner {
 static constexpr Layout places = {0x00100000, SmallGuest::stackTop, 0x00080000, 0x00040000, 0x000E0000};
 static constexpr Word stackReserve = 0x4000;
 
-SmallGuest::SmallGuest() : guest(thrower, places)
+SmallGuest::SmallGuest() : guest(sink, places)
 {
     Memory().Map(code, GuestMemory::pageSize, CanRead | CanExecute);
     Memory().Map(data, GuestMemory::pageSize, CanRead | CanWrite, Content::Undefined);

@@ -3,18 +3,13 @@
 
 #include "tools/runner/calls/Call.h"
 
-#include <gtest/gtest.h>
+#include "tests/tools/machine/ThrownFinding.h"
 
 namespace runner {
 
-class FindingThrower : public FindingSink
-{
-    void Take(const Finding& finding) override { throw finding; }
-};
-
 class SmallGuest
 {
-    FindingThrower thrower;
+    ThrowingSink sink;
 
   public:
     static constexpr Address code = 0x00010000;
@@ -32,18 +27,5 @@ class SmallGuest
     Address PutCallOf(Address trap, Word offset = 0);
     Address PutText(const std::u16string& text, Word offset = 0);
 };
-
-// What the action is stopped by. Fails for one that is not.
-template <class Action>
-Finding FindingBy(Action action)
-{
-    try {
-        action();
-    } catch (const Finding& finding) {
-        return finding;
-    }
-    ADD_FAILURE() << "nothing was found";
-    return {};
-}
 
 } // namespace runner

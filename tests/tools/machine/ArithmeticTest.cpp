@@ -1,36 +1,12 @@
 // Sums and differences, and the four flags they leave.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/Operation.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
-struct SumRow
-{
-    const char* text;
-    Word instruction; // r0 from r1 and r2
-    Word a;
-    Word b;
-    const char* flagsBefore;
-    Word result; // of those that only compare: r0 as it was
-    const char* flagsAfter;
-};
-static constexpr Word untouched = 0x5A5A5A5A;
-
-static void Check(const SumRow& row)
-{
-    SCOPED_TRACE(row.text);
-    Guest guest;
-    guest.before.r[0] = {untouched, 0};
-    guest.before.r[1] = {row.a, 0};
-    guest.before.r[2] = {row.b, 0};
-    guest.before.flags = FlagsOf(row.flagsBefore);
-    const Registers& after = guest.Run({row.instruction});
-    EXPECT_EQ(after.Bits(0), row.result);
-    EXPECT_EQ(FlagText(after.flags), row.flagsAfter);
-}
-
 TEST(ArithmeticTest, Sums)
 {
-    const SumRow rows[] = {
+    const OperationRow rows[] = {
         {"adds", 0xE0910002, 1, 2, "NZCV", 3, "nzcv"},
         {"adds to zero", 0xE0910002, 0xFFFFFFFF, 1, "nzcv", 0, "nZCv"},
         {"adds overflows", 0xE0910002, 0x7FFFFFFF, 1, "nzcv", 0x80000000, "NzcV"},
@@ -43,15 +19,13 @@ TEST(ArithmeticTest, Sums)
         {"add leaves the flags", 0xE0810002, 0xFFFFFFFF, 1, "NzcV", 0, "NzcV"},
         {"cmn", 0xE1710002, 0xFFFFFFFF, 1, "NzcV", untouched, "nZCv"},
     };
-    for (const SumRow& row : rows) {
-        Check(row);
-    }
+    CheckOperations(rows);
 }
 
 // The carry is the contrary of a borrow.
 TEST(ArithmeticTest, Differences)
 {
-    const SumRow rows[] = {
+    const OperationRow rows[] = {
         {"subs", 0xE0510002, 5, 3, "nzcv", 2, "nzCv"},
         {"subs of equals", 0xE0510002, 5, 5, "nzcv", 0, "nZCv"},
         {"subs borrows", 0xE0510002, 3, 5, "nzCv", 0xFFFFFFFE, "Nzcv"},
@@ -68,29 +42,25 @@ TEST(ArithmeticTest, Differences)
         {"cmp", 0xE1510002, 3, 3, "NzcV", untouched, "nZCv"},
         {"cmp below", 0xE1510002, 0, 0x80000000, "nzcv", untouched, "NzcV"},
     };
-    for (const SumRow& row : rows) {
-        Check(row);
-    }
+    CheckOperations(rows);
 }
 
 TEST(ArithmeticTest, ShiftedAndConstantOperands)
 {
-    const SumRow rows[] = {
+    const OperationRow rows[] = {
         {"add lsl #2", 0xE0810102, 100, 5, "nzcv", 120, "nzcv"},
         {"rsb asr #1", 0xE06100C2, 1, 0xFFFFFFF0, "nzcv", 0xFFFFFFF7, "nzcv"},
         {"sub #", 0xE2410A01, 0x1001, 0, "nzcv", 1, "nzcv"},
         {"adds takes no carry from the shifter", 0xE0910082, 0, 0x80000001, "nzCv", 2, "nzcv"},
         {"adc takes the flag, not the shifter's carry", 0xE0A10082, 0, 0x80000000, "nzcv", 0, "nzcv"},
     };
-    for (const SumRow& row : rows) {
-        Check(row);
-    }
+    CheckOperations(rows);
 }
 
 // Two words at a time, as the compiler does numbers of 64 bits.
 TEST(ArithmeticTest, CarryLinksWords)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.r[0] = {0xFFFFFFFF, 0};
     guest.before.r[1] = {0x00000001, 0};
     guest.before.r[2] = {0x00000002, 0};

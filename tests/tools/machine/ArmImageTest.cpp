@@ -1,6 +1,6 @@
 // What is read of an executable, where it comes to lie, and which files are refused.
-#include "tests/tools/machine/Guest.h"
 #include "tests/tools/machine/ImageFile.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 #include "tools/common/Refusal.h"
 
@@ -51,7 +51,7 @@ TEST(ArmImageTest, HeadersAndSections)
 // The machine runs it: sections with their protection, slots with their traps, the stack of the header.
 TEST(ArmImageTest, IsLoadedAndRun)
 {
-    Guest guest;
+    SmallMachine guest;
     Machine& machine = guest.machine;
     const ArmImage image(ImageFile().Bytes());
     machine.Load(image, 100);
@@ -63,8 +63,8 @@ TEST(ArmImageTest, IsLoadedAndRun)
     EXPECT_EQ(machine.memory.ProtectionAt(ImageFile::base), unsigned{CanRead});
     EXPECT_EQ(machine.memory.ProtectionAt(ImageFile::entry), unsigned{CanRead | CanExecute});
     EXPECT_EQ(machine.memory.ProtectionAt(ImageFile::dataBegin + 0x1000), unsigned{CanRead | CanWrite});
-    EXPECT_EQ(machine.processor.Register(StackRegister), Guest::stackTop);
-    EXPECT_EQ(machine.memory.StackLow(), Guest::stackTop - 0x8000);
+    EXPECT_EQ(machine.processor.Register(StackRegister), SmallMachine::stackTop);
+    EXPECT_EQ(machine.memory.StackLow(), SmallMachine::stackTop - 0x8000);
     machine.processor.SetRegister(LinkRegister, TrapAddress(3));
     EXPECT_EQ(machine.processor.Run(image.Entry()), 3u);
     EXPECT_EQ(machine.processor.Register(0), 5u);

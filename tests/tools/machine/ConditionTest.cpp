@@ -1,5 +1,5 @@
 // Each condition in each state of the flags.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
@@ -24,7 +24,7 @@ static constexpr Word expected[] = {
 
 TEST(ConditionTest, EveryConditionInEveryState)
 {
-    Guest guest;
+    SmallMachine guest;
     for (Word condition = 0; condition < std::size(expected); condition++) {
         for (Word state = 0; state < 16; state++) {
             guest.before.r[0] = {0, 0};
@@ -39,14 +39,14 @@ TEST(ConditionTest, EveryConditionInEveryState)
 
 TEST(ConditionTest, TheSixteenthIsNone)
 {
-    Guest guest;
+    SmallMachine guest;
     ExpectFinding(FindingKind::UnknownInstruction, [&guest] { guest.Run({0xF3A00001}); });
 }
 
 // What is skipped is counted, and does nothing at all.
 TEST(ConditionTest, SkippedInstructionsTouchNothing)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.flags = FlagsOf("nzcv");
     guest.Run({0x05910000, 0x05810000, 0x012FFF11, 0x01A0D001, 0x08B1000C, 0x0F000001});
     EXPECT_EQ(guest.Bits(1), 0u);
@@ -71,7 +71,7 @@ TEST(ConditionTest, UndefinedFlagsAreFoundWhereTheyDecide)
         {0xC3A00001, NegativeFlag | OverflowFlag | ZeroFlag},
         {0xE3A00001, 0},
     };
-    Guest guest;
+    SmallMachine guest;
     for (const Row& row : rows) {
         for (unsigned flag = 1; flag < 16; flag *= 2) {
             guest.before.flags.undefined = flag;

@@ -1,14 +1,14 @@
 // Instructions and imports by part of the program.
 #include "tools/runner/machine/Counts.h"
 
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 #include "tools/runner/machine/Symbols.h"
 
 namespace runner {
 
 TEST(CountsTest, PartsCountWhatTheyCost)
 {
-    Guest guest;
+    SmallMachine guest;
     Counts counts(guest.machine.processor);
     {
         const Counts::Section outer(counts, "list 0x000f");
@@ -41,8 +41,8 @@ TEST(CountsTest, PartsCountWhatTheyCost)
 
 TEST(CountsTest, ProfileTellsEachInstruction)
 {
-    Guest guest;
-    guest.machine.processor.Profile(Guest::code + 4, 12);
+    SmallMachine guest;
+    guest.machine.processor.Profile(SmallMachine::code + 4, 12);
     guest.Run({0xE3A00003, 0xE2500001, 0x1AFFFFFD, 0xE3A01001, 0xE3A02001});
     const std::vector<std::uint64_t> expected = {3, 3, 1};
     EXPECT_EQ(guest.machine.processor.ProfileCounts(), expected);

@@ -1,5 +1,5 @@
 // Blocks of the guest's heap, and uses of what is none.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
@@ -8,7 +8,7 @@ static constexpr Word load = 0xE5910000;
 static constexpr Word loadByte = 0xE5D10000;
 static constexpr Word storeByte = 0xE5C10000;
 
-static Finding Touch(Guest& guest, Word instruction, Address address)
+static Finding Touch(SmallMachine& guest, Word instruction, Address address)
 {
     guest.before.r[1] = {address, 0};
     return FindingOf([&] { guest.Run({instruction}); });
@@ -16,7 +16,7 @@ static Finding Touch(Guest& guest, Word instruction, Address address)
 
 TEST(HeapTest, BlocksAreAlignedAndApart)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestHeap& heap = guest.machine.heap;
     std::map<Address, Word> blocks;
     for (const Word size : {1u, 0u, 7u, 8u, 33u, 4096u, 5u}) {
@@ -35,7 +35,7 @@ TEST(HeapTest, BlocksAreAlignedAndApart)
 
 TEST(HeapTest, EveryByteOfABlockIsItsOwn)
 {
-    Guest guest;
+    SmallMachine guest;
     const Address block = guest.machine.heap.Allocate(5, caller, GuestHeap::Fill::Zero);
     for (Word index = 0; index < 5; index++) {
         guest.before.r[1] = {block + index, 0};
@@ -57,7 +57,7 @@ TEST(HeapTest, EveryByteOfABlockIsItsOwn)
 
 TEST(HeapTest, FreshBlocksAreUndefinedOrZero)
 {
-    Guest guest;
+    SmallMachine guest;
     const Address fresh = guest.machine.heap.Allocate(8, caller);
     const Address zeroed = guest.machine.heap.Allocate(8, caller, GuestHeap::Fill::Zero);
     EXPECT_FALSE(guest.machine.memory.IsDefined(fresh, 1));
@@ -68,7 +68,7 @@ TEST(HeapTest, FreshBlocksAreUndefinedOrZero)
 
 TEST(HeapTest, FreedBlocksAreKnown)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestHeap& heap = guest.machine.heap;
     const Address block = heap.Allocate(16, caller, GuestHeap::Fill::Zero);
     heap.Free(block, 0x5678);
@@ -89,11 +89,11 @@ TEST(HeapTest, FreedBlocksAreKnown)
 
 TEST(HeapTest, WhatIsNoBlockIsNotFreed)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestHeap& heap = guest.machine.heap;
     const Address block = heap.Allocate(16, caller);
     ExpectFinding(FindingKind::Misuse, [&] { heap.Free(block + 4, caller); });
-    ExpectFinding(FindingKind::Misuse, [&] { heap.SizeOf(Guest::data); });
+    ExpectFinding(FindingKind::Misuse, [&] { heap.SizeOf(SmallMachine::data); });
     ExpectFinding(FindingKind::Misuse, [&] { heap.Reallocate(0, 4, caller); });
     heap.Free(block, caller);
     ExpectFinding(FindingKind::Freed, [&] { heap.Free(block, caller); });
@@ -102,7 +102,7 @@ TEST(HeapTest, WhatIsNoBlockIsNotFreed)
 
 TEST(HeapTest, ReallocationMoves)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestHeap& heap = guest.machine.heap;
     const Address block = heap.Allocate(8, caller);
     guest.PutWord(block, 0x11223344);
@@ -121,7 +121,7 @@ TEST(HeapTest, ReallocationMoves)
 
 TEST(HeapTest, LeaksBelongToWhoAllocated)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestHeap& heap = guest.machine.heap;
     heap.Allocate(10, 1);
     heap.Allocate(100, 2);
@@ -140,7 +140,7 @@ TEST(HeapTest, LeaksBelongToWhoAllocated)
 
 TEST(HeapTest, ALongRunFitsIn)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestHeap& heap = guest.machine.heap;
     const Address kept = heap.Allocate(64, caller, GuestHeap::Fill::Zero);
     // Many times the heap's size, in blocks of many sizes.
@@ -153,15 +153,15 @@ TEST(HeapTest, ALongRunFitsIn)
     EXPECT_EQ(heap.LiveBlocks(), 1u);
     EXPECT_EQ(guest.WordAt(kept + 60), 0u);
     // When all is free again, all but little of it can be had in one piece.
-    EXPECT_NE(heap.Allocate(Guest::heapSize - 0x1000, caller), 0u);
+    EXPECT_NE(heap.Allocate(SmallMachine::heapSize - 0x1000, caller), 0u);
 }
 
 // Room is made of the older half of the freed blocks.
 TEST(HeapTest, WhatWasFreedLatelyIsKnownLongest)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestHeap& heap = guest.machine.heap;
-    constexpr Word quarter = Guest::heapSize / 4 - 0x100;
+    constexpr Word quarter = SmallMachine::heapSize / 4 - 0x100;
     Address blocks[4];
     for (Address& block : blocks) {
         block = heap.Allocate(quarter, caller);
@@ -176,31 +176,32 @@ TEST(HeapTest, WhatWasFreedLatelyIsKnownLongest)
 
 TEST(HeapTest, AFullHeapGivesNothing)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestHeap& heap = guest.machine.heap;
-    EXPECT_EQ(heap.Allocate(Guest::heapSize, caller), 0u);
+    EXPECT_EQ(heap.Allocate(SmallMachine::heapSize, caller), 0u);
     EXPECT_EQ(heap.Allocate(0xFFFFFFFF, caller), 0u);
-    const Address block = heap.Allocate(Guest::heapSize / 2, caller);
+    const Address block = heap.Allocate(SmallMachine::heapSize / 2, caller);
     EXPECT_NE(block, 0u);
-    EXPECT_EQ(heap.Allocate(Guest::heapSize / 2, caller), 0u);
+    EXPECT_EQ(heap.Allocate(SmallMachine::heapSize / 2, caller), 0u);
     // What cannot grow stays as it is.
-    EXPECT_EQ(heap.Reallocate(block, Guest::heapSize - 0x1000, caller), 0u);
+    EXPECT_EQ(heap.Reallocate(block, SmallMachine::heapSize - 0x1000, caller), 0u);
     EXPECT_TRUE(heap.IsBlock(block));
 }
 
 TEST(HeapTest, TheLastBlockHasAnEndToo)
 {
-    Guest guest;
+    SmallMachine guest;
     Address block = 0;
-    Word size = Guest::heapSize;
+    Word size = SmallMachine::heapSize;
     while (block == 0) {
         size -= 8;
         block = guest.machine.heap.Allocate(size, caller);
     }
-    EXPECT_GT(size, Guest::heapSize - 0x1000);
+    EXPECT_GT(size, SmallMachine::heapSize - 0x1000);
     EXPECT_EQ(Touch(guest, loadByte, block + size).kind, FindingKind::OutOfBlock);
     EXPECT_EQ(Touch(guest, storeByte, block + size).kind, FindingKind::OutOfBlock);
-    EXPECT_EQ(Touch(guest, loadByte, Guest::heapBegin + Guest::heapSize).kind, FindingKind::Unmapped);
+    EXPECT_EQ(Touch(guest, loadByte, SmallMachine::heapBegin + SmallMachine::heapSize).kind,
+              FindingKind::Unmapped);
 }
 
 } // namespace runner

@@ -1,13 +1,13 @@
 // How the host's side reaches the guest's memory.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
-static constexpr Address place = Guest::data + 0x100;
+static constexpr Address place = SmallMachine::data + 0x100;
 
 TEST(HostAccessTest, PointersLeadToTheGuest)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestMemory& memory = guest.machine.memory;
     void* host = memory.Checked(place, 4, 8, Access::Write);
     const Word words[2] = {1, 2};
@@ -20,7 +20,7 @@ TEST(HostAccessTest, PointersLeadToTheGuest)
 
 TEST(HostAccessTest, ChecksAsForTheGuest)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestMemory& memory = guest.machine.memory;
     const auto expect = [&memory](FindingKind kind, Address address, Word alignment, Word length,
                                   Access access) {
@@ -29,12 +29,12 @@ TEST(HostAccessTest, ChecksAsForTheGuest)
     expect(FindingKind::Unmapped, 0, 4, 4, Access::Read);
     expect(FindingKind::Unmapped, 0, 1, 0, Access::Read);
     expect(FindingKind::Unaligned, place + 2, 4, 4, Access::Read);
-    expect(FindingKind::Unmapped, Guest::data + 0xFFC, 4, 8, Access::Look);
-    expect(FindingKind::Unmapped, Guest::data, 4, 0xFFFFFFFF, Access::Look);
+    expect(FindingKind::Unmapped, SmallMachine::data + 0xFFC, 4, 8, Access::Look);
+    expect(FindingKind::Unmapped, SmallMachine::data, 4, 0xFFFFFFFF, Access::Look);
     expect(FindingKind::Unmapped, 0xFFFFFFFC, 4, 8, Access::Look);
-    expect(FindingKind::Protected, Guest::code, 4, 4, Access::Write);
-    expect(FindingKind::Protected, Guest::code, 4, 4, Access::Reserve);
-    expect(FindingKind::BelowStack, Guest::stackTop - 4, 4, 4, Access::Write);
+    expect(FindingKind::Protected, SmallMachine::code, 4, 4, Access::Write);
+    expect(FindingKind::Protected, SmallMachine::code, 4, 4, Access::Reserve);
+    expect(FindingKind::BelowStack, SmallMachine::stackTop - 4, 4, 4, Access::Write);
     const Address block = guest.machine.heap.Allocate(8, 0);
     expect(FindingKind::OutOfBlock, block, 4, 12, Access::Write);
     expect(FindingKind::Undefined, block, 4, 8, Access::Read);
@@ -44,7 +44,7 @@ TEST(HostAccessTest, ChecksAsForTheGuest)
 
 TEST(HostAccessTest, WhatIsDefinedAfterwards)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestMemory& memory = guest.machine.memory;
     const Address block = guest.machine.heap.Allocate(16, 0);
     memory.Checked(block, 4, 16, Access::Look);
@@ -63,16 +63,16 @@ TEST(HostAccessTest, WhatIsDefinedAfterwards)
 // A structure across pages of which the upper ones are there.
 TEST(HostAccessTest, TheStackGrowsForTheHostToo)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestMemory& memory = guest.machine.memory;
-    guest.machine.processor.SetRegister(StackRegister, Guest::stackTop - 0x1100);
-    memory.Checked(Guest::stackTop - 0x1100, 4, 0x200, Access::Write);
-    EXPECT_EQ(memory.LowestStackPage(), Guest::stackTop - 0x2000);
+    guest.machine.processor.SetRegister(StackRegister, SmallMachine::stackTop - 0x1100);
+    memory.Checked(SmallMachine::stackTop - 0x1100, 4, 0x200, Access::Write);
+    EXPECT_EQ(memory.LowestStackPage(), SmallMachine::stackTop - 0x2000);
 }
 
 TEST(HostAccessTest, ValuesOfEachSize)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestMemory& memory = guest.machine.memory;
     memory.Write<std::uint64_t>(place + 4, 0x1122334455667788);
     EXPECT_EQ(guest.WordAt(place + 4), 0x55667788u);
@@ -84,7 +84,7 @@ TEST(HostAccessTest, ValuesOfEachSize)
 
 TEST(HostAccessTest, Texts)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestMemory& memory = guest.machine.memory;
     const std::u16string text = u"grün";
     std::memcpy(memory.Host(place), text.c_str(), 2 * (text.size() + 1));
@@ -104,7 +104,7 @@ TEST(HostAccessTest, Texts)
 
 TEST(HostAccessTest, CopiesKeepWhatIsUndefined)
 {
-    Guest guest;
+    SmallMachine guest;
     GuestMemory& memory = guest.machine.memory;
     memory.MarkUndefined(place + 1, 1);
     memory.CopyWithMarks(place + 2, place, 4);

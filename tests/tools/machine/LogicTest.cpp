@@ -1,23 +1,12 @@
 // Logic, and the flags it leaves: the carry is the shifter's, the overflow stays.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/Operation.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
-struct LogicRow
-{
-    const char* text;
-    Word instruction; // r0 from r1 and r2
-    Word a;
-    Word b;
-    const char* flagsBefore;
-    Word result;
-    const char* flagsAfter;
-};
-static constexpr Word untouched = 0x5A5A5A5A;
-
 TEST(LogicTest, ResultsAndFlags)
 {
-    const LogicRow rows[] = {
+    const OperationRow rows[] = {
         {"ands", 0xE0110002, 0xC, 0xA, "NZCV", 0x8, "nzCV"},
         {"ands to zero", 0xE0110002, 0xC, 0x3, "nzcV", 0, "nZcV"},
         {"eors", 0xE0310002, 0xC, 0xA, "nzcv", 0x6, "nzcv"},
@@ -35,22 +24,12 @@ TEST(LogicTest, ResultsAndFlags)
         {"teq of equals", 0xE1310002, 7, 7, "nzcV", untouched, "nZcV"},
         {"teq of others", 0xE1310002, 7, 0x80000007, "nzcv", untouched, "Nzcv"},
     };
-    for (const LogicRow& row : rows) {
-        SCOPED_TRACE(row.text);
-        Guest guest;
-        guest.before.r[0] = {untouched, 0};
-        guest.before.r[1] = {row.a, 0};
-        guest.before.r[2] = {row.b, 0};
-        guest.before.flags = FlagsOf(row.flagsBefore);
-        const Registers& after = guest.Run({row.instruction});
-        EXPECT_EQ(after.Bits(0), row.result);
-        EXPECT_EQ(FlagText(after.flags), row.flagsAfter);
-    }
+    CheckOperations(rows);
 }
 
 TEST(LogicTest, NothingElseChanges)
 {
-    Guest guest;
+    SmallMachine guest;
     for (unsigned index = 0; index < StackRegister; index++) {
         guest.before.r[index] = {0x100 + index, 0};
     }
@@ -59,7 +38,7 @@ TEST(LogicTest, NothingElseChanges)
     for (unsigned index = 0; index < StackRegister; index++) {
         EXPECT_EQ(after.Bits(index), index == 5 ? (0x106u | 0x107u) : 0x100u + index) << index;
     }
-    EXPECT_EQ(after.Bits(StackRegister), Guest::stackTop);
+    EXPECT_EQ(after.Bits(StackRegister), SmallMachine::stackTop);
     EXPECT_EQ(after.Bits(LinkRegister), 0x777u);
 }
 

@@ -1,11 +1,11 @@
 // Accesses that the guest must not make.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
 static Finding Touch(Word instruction, Address address)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.r[1] = {address, 0};
     return FindingOf([&] { guest.Run({instruction}); });
 }
@@ -17,7 +17,7 @@ static void ExpectTouch(Word instruction, Address address, FindingKind kind, Acc
     EXPECT_EQ(finding.access, access);
     EXPECT_EQ(finding.address, address);
     EXPECT_EQ(finding.size, size);
-    EXPECT_EQ(finding.place, Guest::code);
+    EXPECT_EQ(finding.place, SmallMachine::code);
 }
 
 static constexpr Word loadWord = 0xE5910000;
@@ -31,13 +31,13 @@ static constexpr Word storeByte = 0xE5C10000;
 TEST(MemoryCheckTest, Unaligned)
 {
     for (const Word odd : {1u, 2u, 3u}) {
-        ExpectTouch(loadWord, Guest::data + odd, FindingKind::Unaligned, Access::Read, 4);
-        ExpectTouch(storeWord, Guest::data + odd, FindingKind::Unaligned, Access::Write, 4);
-        ExpectTouch(0xE891000C, Guest::data + odd, FindingKind::Unaligned, Access::Read, 4);
-        ExpectTouch(0xE1010092, Guest::data + odd, FindingKind::Unaligned, Access::Read, 4);
+        ExpectTouch(loadWord, SmallMachine::data + odd, FindingKind::Unaligned, Access::Read, 4);
+        ExpectTouch(storeWord, SmallMachine::data + odd, FindingKind::Unaligned, Access::Write, 4);
+        ExpectTouch(0xE891000C, SmallMachine::data + odd, FindingKind::Unaligned, Access::Read, 4);
+        ExpectTouch(0xE1010092, SmallMachine::data + odd, FindingKind::Unaligned, Access::Read, 4);
     }
-    ExpectTouch(loadHalf, Guest::data + 1, FindingKind::Unaligned, Access::Read, 2);
-    ExpectTouch(storeHalf, Guest::data + 3, FindingKind::Unaligned, Access::Write, 2);
+    ExpectTouch(loadHalf, SmallMachine::data + 1, FindingKind::Unaligned, Access::Read, 2);
+    ExpectTouch(storeHalf, SmallMachine::data + 3, FindingKind::Unaligned, Access::Write, 2);
 }
 
 TEST(MemoryCheckTest, NothingThere)
@@ -47,16 +47,16 @@ TEST(MemoryCheckTest, NothingThere)
         ExpectTouch(loadWord, address, FindingKind::Unmapped, Access::Read, 4);
         ExpectTouch(storeByte, address, FindingKind::Unmapped, Access::Write, 1);
     }
-    ExpectTouch(loadByte, Guest::data + GuestMemory::pageSize, FindingKind::Unmapped, Access::Read, 1);
-    ExpectTouch(loadByte, Guest::data - 1, FindingKind::Unmapped, Access::Read, 1);
+    ExpectTouch(loadByte, SmallMachine::data + GuestMemory::pageSize, FindingKind::Unmapped, Access::Read, 1);
+    ExpectTouch(loadByte, SmallMachine::data - 1, FindingKind::Unmapped, Access::Read, 1);
 }
 
 TEST(MemoryCheckTest, NotToBeWritten)
 {
-    ExpectTouch(storeWord, Guest::code, FindingKind::Protected, Access::Write, 4);
-    ExpectTouch(storeByte, Guest::code + 1, FindingKind::Protected, Access::Write, 1);
-    Guest guest;
-    guest.before.r[1] = {Guest::code, 0};
+    ExpectTouch(storeWord, SmallMachine::code, FindingKind::Protected, Access::Write, 4);
+    ExpectTouch(storeByte, SmallMachine::code + 1, FindingKind::Protected, Access::Write, 1);
+    SmallMachine guest;
+    guest.before.r[1] = {SmallMachine::code, 0};
     guest.Run({loadWord});
     EXPECT_EQ(guest.Bits(0), loadWord);
 }
@@ -64,15 +64,15 @@ TEST(MemoryCheckTest, NotToBeWritten)
 TEST(MemoryCheckTest, AlignmentIsToldFirst)
 {
     ExpectTouch(loadWord, 0x1, FindingKind::Unaligned, Access::Read, 4);
-    ExpectTouch(storeHalf, Guest::code + 1, FindingKind::Unaligned, Access::Write, 2);
+    ExpectTouch(storeHalf, SmallMachine::code + 1, FindingKind::Unaligned, Access::Write, 2);
 }
 
 TEST(MemoryCheckTest, UnmappedAgain)
 {
-    Guest guest;
-    guest.before.r[1] = {Guest::data, 0};
+    SmallMachine guest;
+    guest.before.r[1] = {SmallMachine::data, 0};
     guest.Run({loadWord});
-    guest.machine.memory.Unmap(Guest::data, GuestMemory::pageSize);
+    guest.machine.memory.Unmap(SmallMachine::data, GuestMemory::pageSize);
     ExpectFinding(FindingKind::Unmapped, [&] { guest.Run({loadWord}); });
 }
 

@@ -1,5 +1,5 @@
 // Products of 32 and 64 bits.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
@@ -30,7 +30,7 @@ TEST(MultiplyTest, Products)
     };
     for (const ProductRow& row : rows) {
         SCOPED_TRACE(row.text);
-        Guest guest;
+        SmallMachine guest;
         guest.before.r[0] = {row.low, 0};
         guest.before.r[1] = {row.a, 0};
         guest.before.r[2] = {row.b, 0};
@@ -46,7 +46,7 @@ TEST(MultiplyTest, Products)
 
 TEST(MultiplyTest, FlagsOfWords)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.r[1] = {0x10000, 0};
     guest.before.r[2] = {0x10000, 0};
     guest.Run({0xE0100291});
@@ -61,7 +61,7 @@ TEST(MultiplyTest, FlagsOfWords)
 
 TEST(MultiplyTest, FlagsOfDoubleWords)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.r[1] = {0x10000, 0};
     guest.before.r[2] = {0x10000, 0};
     guest.Run({0xE0930291});

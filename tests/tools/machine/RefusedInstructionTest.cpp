@@ -1,5 +1,5 @@
 // What the oldest of the devices' processors lack, and what means different things on different ones.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
@@ -11,16 +11,16 @@ struct RefusedRow
 
 static void ExpectRefused(FindingKind kind, std::span<const RefusedRow> rows)
 {
-    Guest guest;
+    SmallMachine guest;
     // Nothing else is to be found wrong with them.
     for (unsigned index = 0; index < StackRegister; index++) {
-        guest.before.r[index] = {Guest::data + 0x100, 0};
+        guest.before.r[index] = {SmallMachine::data + 0x100, 0};
     }
     for (const RefusedRow& row : rows) {
         SCOPED_TRACE(row.text);
         const Finding finding = FindingOf([&] { guest.Run({0xE1A08008, row.instruction}); });
         EXPECT_EQ(finding.kind, kind) << finding.Line(nullptr);
-        EXPECT_EQ(finding.place, Guest::code + 4);
+        EXPECT_EQ(finding.place, SmallMachine::code + 4);
     }
 }
 

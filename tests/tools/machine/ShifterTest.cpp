@@ -1,5 +1,5 @@
 // The shifter's results and the carry it leaves, by the architecture's tables.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
@@ -17,7 +17,7 @@ struct ShiftRow
 static void Check(const ShiftRow& row)
 {
     SCOPED_TRACE(std::string(row.text) + ", r2 = " + std::to_string(row.distance));
-    Guest guest;
+    SmallMachine guest;
     guest.before.r[1] = {row.value, 0};
     guest.before.r[2] = {row.distance, 0};
     guest.before.flags.c = row.carryBefore;
@@ -116,9 +116,9 @@ TEST(ShifterTest, ConstantsAreRotated)
 // The shifter sees the program counter two instructions ahead.
 TEST(ShifterTest, ProgramCounterIsTwoInstructionsAhead)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.Run({0xE3A03001, 0xE083008F});
-    EXPECT_EQ(guest.Bits(0), 1 + 2 * (Guest::code + 12));
+    EXPECT_EQ(guest.Bits(0), 1 + 2 * (SmallMachine::code + 12));
 }
 
 } // namespace runner

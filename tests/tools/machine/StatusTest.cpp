@@ -1,11 +1,11 @@
 // The status register as a program may read and write it.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
 TEST(StatusTest, FlagsAreRead)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.flags = FlagsOf("NzCv");
     guest.Run({0xE10F0000});
     // Behind the flags is the mode of programs.
@@ -14,7 +14,7 @@ TEST(StatusTest, FlagsAreRead)
 
 TEST(StatusTest, FlagsAreWritten)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.r[0] = {0x50000000, 0};
     guest.Run({0xE128F000});
     EXPECT_EQ(FlagText(guest.State().flags), "nZcV");
@@ -24,7 +24,7 @@ TEST(StatusTest, FlagsAreWritten)
 
 TEST(StatusTest, UndefinedFlagsStaySo)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.flags.undefined = CarryFlag;
     guest.Run({0xE10F0000, 0xE1A01000, 0xE1510001, 0xE128F000});
     EXPECT_EQ(guest.State().flags.undefined, unsigned{CarryFlag});

@@ -1,9 +1,9 @@
 // Loads and stores of words and bytes, in each way to address them.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
-static constexpr Address middle = Guest::data + 0x100;
+static constexpr Address middle = SmallMachine::data + 0x100;
 
 struct LoadRow
 {
@@ -33,8 +33,8 @@ TEST(TransferTest, LoadedFromWhere)
     };
     for (const LoadRow& row : rows) {
         SCOPED_TRACE(row.text);
-        Guest guest;
-        for (Address place = Guest::data; place < Guest::data + 0x200; place += 4) {
+        SmallMachine guest;
+        for (Address place = SmallMachine::data; place < SmallMachine::data + 0x200; place += 4) {
             guest.PutWord(place, place ^ 0xA5000000);
         }
         guest.before.r[1] = {middle, 0};
@@ -56,13 +56,13 @@ TEST(TransferTest, StoredWhere)
     };
     for (const LoadRow& row : rows) {
         SCOPED_TRACE(row.text);
-        Guest guest;
+        SmallMachine guest;
         guest.before.r[0] = {0x12345678, 0};
         guest.before.r[1] = {middle, 0};
         guest.before.r[2] = {row.offset, 0};
         guest.Run({row.instruction});
         EXPECT_EQ(guest.Bits(1), row.baseAfter);
-        for (Address place = Guest::data; place < Guest::data + 0x200; place += 4) {
+        for (Address place = SmallMachine::data; place < SmallMachine::data + 0x200; place += 4) {
             EXPECT_EQ(guest.WordAt(place), place == row.from ? 0x12345678 : 0) << place;
         }
     }
@@ -70,7 +70,7 @@ TEST(TransferTest, StoredWhere)
 
 TEST(TransferTest, Bytes)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.PutWord(middle, 0x81828384);
     guest.before.r[0] = {0xAABBCCDD, 0};
     guest.before.r[1] = {middle, 0};
@@ -82,7 +82,7 @@ TEST(TransferTest, Bytes)
 
 TEST(TransferTest, HalfWordsAndSigns)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.PutWord(middle, 0x8182F384);
     guest.PutWord(middle + 4, 0x00007F01);
     guest.before.r[0] = {0xAABBCCDD, 0};
@@ -103,7 +103,7 @@ TEST(TransferTest, HalfWordsAndSigns)
 
 TEST(TransferTest, FarHalfWords)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.PutWord(middle + 0xC4, 0x5678);
     guest.before.r[1] = {middle, 0};
     guest.Run({0xE1D10CB4, 0xE1410FB2});
@@ -113,7 +113,7 @@ TEST(TransferTest, FarHalfWords)
 
 TEST(TransferTest, FlagsAndShifterDoNotMix)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.flags = FlagsOf("nzCv");
     guest.before.r[1] = {middle, 0};
     guest.before.r[2] = {0x80000004, 0};
@@ -124,12 +124,12 @@ TEST(TransferTest, FlagsAndShifterDoNotMix)
 // The program counter as a base, as what is stored, and as what is loaded.
 TEST(TransferTest, ProgramCounter)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.before.r[1] = {middle, 0};
     guest.Run({0xE51F0008, 0xE581F000});
     EXPECT_EQ(guest.Bits(0), 0xE51F0008u);
-    EXPECT_EQ(guest.WordAt(middle), Guest::code + 4 + 12);
-    guest.PutWord(middle, Guest::code + 12);
+    EXPECT_EQ(guest.WordAt(middle), SmallMachine::code + 4 + 12);
+    guest.PutWord(middle, SmallMachine::code + 12);
     guest.Run({0xE591F000, 0xE3A05001, 0xE3A06001, 0xE3A07001});
     EXPECT_EQ(guest.Bits(5), 0u);
     EXPECT_EQ(guest.Bits(6), 0u);
@@ -138,7 +138,7 @@ TEST(TransferTest, ProgramCounter)
 
 TEST(TransferTest, Swaps)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.PutWord(middle, 0x11223344);
     guest.before.r[0] = {0xAABBCCDD, 0};
     guest.before.r[1] = {middle, 0};

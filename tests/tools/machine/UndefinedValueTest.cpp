@@ -1,11 +1,11 @@
 // Values that nobody has written may be copied about. They are found where they decide something.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 namespace runner {
 
-static constexpr Address place = Guest::data + 0x100;
+static constexpr Address place = SmallMachine::data + 0x100;
 
-static Guest& WithUndefined(Guest& guest)
+static SmallMachine& WithUndefined(SmallMachine& guest)
 {
     guest.machine.memory.MarkUndefined(place, 8);
     guest.before.r[1] = {place, 0};
@@ -16,18 +16,18 @@ static Guest& WithUndefined(Guest& guest)
 // The program begins with r0 holding a word that nobody has written, r1 its address, r8 another address.
 static void ExpectFound(const std::vector<Word>& program, const std::string& use)
 {
-    Guest guest;
+    SmallMachine guest;
     std::vector<Word> whole = {0xE5910000};
     whole.insert(whole.end(), program.begin(), program.end());
     const Finding finding = FindingOf([&] { WithUndefined(guest).Run(whole); });
     EXPECT_EQ(finding.kind, FindingKind::Undefined) << finding.Line(nullptr);
     EXPECT_EQ(finding.text, use);
-    EXPECT_EQ(finding.place, Guest::code + 4 * static_cast<Word>(program.size()));
+    EXPECT_EQ(finding.place, SmallMachine::code + 4 * static_cast<Word>(program.size()));
 }
 
 static Word UndefinedAfter(const std::vector<Word>& program, unsigned index)
 {
-    Guest guest;
+    SmallMachine guest;
     std::vector<Word> whole = {0xE5910000};
     whole.insert(whole.end(), program.begin(), program.end());
     return WithUndefined(guest).Run(whole).r[index].undefined;
@@ -35,7 +35,7 @@ static Word UndefinedAfter(const std::vector<Word>& program, unsigned index)
 
 TEST(UndefinedValueTest, CopiesAreAllowed)
 {
-    Guest guest;
+    SmallMachine guest;
     WithUndefined(guest).Run({0xE891000C, 0xE888000C, 0xE1A04002, 0xE5884008, 0xE5C8300C, 0xE5D8500D});
     const GuestMemory& memory = guest.machine.memory;
     EXPECT_FALSE(memory.IsDefined(place + 0x40, 4));
@@ -70,7 +70,7 @@ TEST(UndefinedValueTest, DecidesTheWay)
 TEST(UndefinedValueTest, FlagsAreDefinedOneByOne)
 {
     ExpectFound({0xE1B02000, 0x43A03001}, "a condition depends on it");
-    Guest guest;
+    SmallMachine guest;
     guest.before.flags.undefined = AllFlags;
     // Logic leaves the overflow as it is, and the carry where nothing is shifted.
     WithUndefined(guest).Run({0xE5910000, 0xE210207F, 0x43833001, 0xE3110000, 0x03A04001});
@@ -119,7 +119,7 @@ TEST(UndefinedValueTest, SumsAndProductsFromTheLowestBitOn)
 
 TEST(UndefinedValueTest, BytesOfAWord)
 {
-    Guest guest;
+    SmallMachine guest;
     guest.machine.memory.MarkUndefined(place + 2, 1);
     guest.before.r[1] = {place, 0};
     const Registers& after = guest.Run({0xE5910000, 0xE5D12002, 0xE1D130D2, 0xE5D14003});
@@ -132,7 +132,7 @@ TEST(UndefinedValueTest, BytesOfAWord)
 // A field of bits is put into a word that nobody has written, and is read again.
 TEST(UndefinedValueTest, FieldsOfBits)
 {
-    Guest guest;
+    SmallMachine guest;
     WithUndefined(guest).Run(
         {0xE5D10000, 0xE3C0000F, 0xE3800005, 0xE5C10000, 0xE5D12000, 0xE3120004, 0x13A03001});
     EXPECT_EQ(guest.Bits(3), 1u);
@@ -142,14 +142,14 @@ TEST(UndefinedValueTest, FieldsOfBits)
 // One bit that is known to be set tells that the whole is not zero.
 TEST(UndefinedValueTest, ZeroIsDecidedByAnyKnownBit)
 {
-    Guest guest;
+    SmallMachine guest;
     WithUndefined(guest).Run({0xE5910000, 0xE3902001, 0x13A03001});
     EXPECT_EQ(guest.Bits(3), 1u);
 }
 
 TEST(UndefinedValueTest, WritingDefines)
 {
-    Guest guest;
+    SmallMachine guest;
     WithUndefined(guest).Run({0xE3A00005, 0xE5810000, 0xE5912000, 0xE3520005, 0x03A03001});
     EXPECT_EQ(guest.Bits(3), 1u);
 }

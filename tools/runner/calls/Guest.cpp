@@ -42,12 +42,9 @@ Address Guest::LowerStack(Word size)
     return pointer;
 }
 
-Word Guest::Enter(Address entry, Word a, Word b, Word c, Word d)
+void Guest::PassArguments(Word a, Word b, Word c, Word d)
 {
     Processor& processor = machine.processor;
-    // The system promises the entry no more than its callbacks.
-    isStackOdd = true;
-    LowerStack(0);
     const Word arguments[] = {a, b, c, d};
     for (unsigned i = 0; i < 4; i++) {
         processor.SetRegister(i, arguments[i]);
@@ -55,6 +52,14 @@ Word Guest::Enter(Address entry, Word a, Word b, Word c, Word d)
     processor.SpoilRegister(ScratchRegister, scratchBits);
     processor.SpoilFlags();
     processor.SetRegister(LinkRegister, TrapAddress(0));
+}
+
+Word Guest::Enter(Address entry, Word a, Word b, Word c, Word d)
+{
+    // The system promises the entry no more than its callbacks.
+    isStackOdd = true;
+    LowerStack(0);
+    PassArguments(a, b, c, d);
     return RunFrom(entry);
 }
 
@@ -64,13 +69,7 @@ Word Guest::CallBack(Address function, Word a, Word b, Word c, Word d)
     const Registers saved = processor.State();
     const bool wasOdd = isStackOdd;
     LowerStack(0);
-    const Word arguments[] = {a, b, c, d};
-    for (unsigned i = 0; i < 4; i++) {
-        processor.SetRegister(i, arguments[i]);
-    }
-    processor.SpoilRegister(ScratchRegister, scratchBits);
-    processor.SpoilFlags();
-    processor.SetRegister(LinkRegister, TrapAddress(0));
+    PassArguments(a, b, c, d);
     const Registers before = processor.State();
     const Word result = RunFrom(function);
     CheckKept(before, function);

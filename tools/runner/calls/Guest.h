@@ -80,6 +80,8 @@ class Guest
     [[noreturn]] void Misuse(const std::string& text, Address address = 0);
 
   private:
+    // As a caller does that promises nothing else.
+    void PassArguments(Word a, Word b, Word c, Word d);
     Word RunFrom(Address place);
     Address Serve(Word trap);
     void CheckKept(const Registers& before, Address function);

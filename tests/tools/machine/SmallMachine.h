@@ -3,17 +3,13 @@
 
 #include "tools/runner/machine/Machine.h"
 
-#include <gtest/gtest.h>
+#include "tests/tools/machine/ThrownFinding.h"
+
 #include <span>
 
 namespace runner {
 
-class ThrowingSink : public FindingSink
-{
-    void Take(const Finding& finding) override { throw finding; }
-};
-
-class Guest
+class SmallMachine
 {
     ThrowingSink sink;
 
@@ -30,7 +26,7 @@ class Guest
     Machine machine;
     Registers before; // what the program starts with
 
-    Guest();
+    SmallMachine();
 
     // Runs these instructions and the way out behind them. What is left in the registers is State.
     const Registers& Run(const std::vector<Word>& program);
@@ -43,25 +39,5 @@ class Guest
 // As the processor's status register has them, with letters: "nZCv". Set ones are capital.
 std::string FlagText(const Flags& flags);
 Flags FlagsOf(const std::string& text);
-
-// What the action is stopped by. Fails for one that is not.
-template <class Action>
-Finding FindingOf(Action action)
-{
-    try {
-        action();
-    } catch (const Finding& finding) {
-        return finding;
-    }
-    ADD_FAILURE() << "nothing was found";
-    return {};
-}
-
-template <class Action>
-void ExpectFinding(FindingKind kind, Action action)
-{
-    const Finding finding = FindingOf(action);
-    EXPECT_EQ(finding.kind, kind) << finding.Line(nullptr);
-}
 
 } // namespace runner

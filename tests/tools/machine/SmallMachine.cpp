@@ -1,14 +1,15 @@
 // The small machine of the tests.
-#include "tests/tools/machine/Guest.h"
+#include "tests/tools/machine/SmallMachine.h"
 
 #include <cctype>
 
 namespace runner {
 
 // Small, because every test makes one, and a sanitiser has to take note of every byte.
-static constexpr Layout small = {0x00100000, Guest::stackTop, Guest::heapBegin, Guest::heapSize, 0x000E0000};
+static constexpr Layout small = {0x00100000, SmallMachine::stackTop, SmallMachine::heapBegin,
+                                 SmallMachine::heapSize, 0x000E0000};
 
-Guest::Guest() : machine(sink, small)
+SmallMachine::SmallMachine() : machine(sink, small)
 {
     machine.memory.Map(code, GuestMemory::pageSize, CanRead | CanExecute);
     machine.memory.Map(data, GuestMemory::pageSize, CanRead | CanWrite);
@@ -16,7 +17,7 @@ Guest::Guest() : machine(sink, small)
     before.r[StackRegister] = {stackTop, 0};
 }
 
-const Registers& Guest::Run(const std::vector<Word>& program)
+const Registers& SmallMachine::Run(const std::vector<Word>& program)
 {
     std::vector<Word> words = program;
     words.push_back(0xE51FF004); // ldr pc, [pc, #-4]

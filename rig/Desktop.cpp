@@ -139,6 +139,15 @@ HWND OpenMenu()
     return FindTopWindow({.className = menuClass});
 }
 
+void FinishPainting()
+{
+    for (HWND window : TopWindows()) {
+        if (IsWindowVisible(window)) {
+            RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        }
+    }
+}
+
 HWND FocusOf(HWND window)
 {
     GUITHREADINFO info = {};

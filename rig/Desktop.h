@@ -49,6 +49,9 @@ std::wstring ExecutableOf(DWORD process);
 // The open pop-up menu's window; null when no menu is open.
 HWND OpenMenu();
 
+// Lets every visible window paint now what it has still to paint.
+void FinishPainting();
+
 // The window that has the focus of that window's thread; null when none has.
 HWND FocusOf(HWND window);
 

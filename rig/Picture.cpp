@@ -3,6 +3,7 @@
 
 #include "rig/WaitFor.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace rig {
@@ -102,6 +103,16 @@ int Picture::Count(COLORREF colour, const RECT& area) const
 int Picture::Count(COLORREF colour) const
 {
     return Count(colour, {0, 0, width, height});
+}
+
+void Picture::Blank(const RECT& area)
+{
+    const LONG left = std::clamp<LONG>(area.left, 0, width);
+    const LONG right = std::clamp<LONG>(area.right, left, width);
+    for (LONG y = std::max<LONG>(area.top, 0); y < std::min<LONG>(area.bottom, height); y++) {
+        const auto row = pixels.begin() + y * width;
+        std::fill(row + left, row + right, 0);
+    }
 }
 
 int Picture::Colours() const

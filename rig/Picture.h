@@ -35,6 +35,8 @@ class Picture
     int Count(COLORREF colour) const;
     // How many different colours there are; one of an empty screen.
     int Colours() const;
+    // Makes what of a rectangle is inside black.
+    void Blank(const RECT& area);
     bool operator==(const Picture& other) const = default;
 
     // False when the file cannot be written.

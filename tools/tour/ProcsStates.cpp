@@ -1,11 +1,19 @@
 // The states of the processes.
 #include "tools/tour/Tour.h"
 
+#include "platform/pc/common/ActiveProfile.h"
 #include "resources/ids.h"
 
 #include <tlhelp32.h>
 
-// The page lists the processes in the system's order. -1 when there is none of this name.
+static bool IsHidden(const PROCESSENTRY32W& entry)
+{
+    const auto* script = handheld::ActiveProfile().FindProcessScript(entry.szExeFile);
+    return script && script->hidden;
+}
+
+// The page lists the processes in the system's order, but for those that the profile hides. -1 when there is
+// none of this name.
 static int RowOfProcess(const wchar_t* name)
 {
     const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
@@ -14,7 +22,7 @@ static int RowOfProcess(const wchar_t* name)
     int row = 0;
     BOOL more = Process32FirstW(snapshot, &entry);
     for (; more && lstrcmpiW(entry.szExeFile, name) != 0; more = Process32NextW(snapshot, &entry)) {
-        ++row;
+        row += IsHidden(entry) ? 0 : 1;
     }
     CloseHandle(snapshot);
     return more ? row : -1;

@@ -62,9 +62,11 @@ void Tour::ShowStartButton()
     const RECT bar = ScreenRectOf(FindWindowW(L"Shell_TrayWnd", nullptr));
     const LONG middle = (bar.bottom - bar.top) / 2;
     Tap({middle, middle});
-    Require(WaitFor([] { return OpenMenu() != nullptr; }), "a tap on the flag opens no menu");
+    HWND menu = nullptr;
+    Require(WaitFor([&] { return (menu = OpenMenu()) != nullptr; }), "a tap on the flag opens no menu");
     PressKey(VK_UP); // the last line, a folder
     PressKey(VK_RIGHT);
+    Require(WaitFor([=] { return OpenMenu() != menu; }), "the folder's menu does not open");
     Keep("start-button");
     CloseMenus();
     Require(WaitFor([&] { return GetForegroundWindow() == program.MainWindow(); }),

@@ -73,5 +73,7 @@ void Tour::ShowRefusedClose()
     Require(WaitFor([&] { return program.Notice() != nullptr; }),
             "closing the home screen is not refused by a notice");
     Keep("refused-close");
-    Require(WaitFor([&] { return program.Notice() == nullptr; }), "the notice does not go away");
+    const RECT notice = ScreenRectOf(program.Notice());
+    Tap({(notice.left + notice.right) / 2, (notice.top + notice.bottom) / 2});
+    Require(WaitFor([&] { return program.Notice() == nullptr; }), "the notice does not go away by a tap");
 }

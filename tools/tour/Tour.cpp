@@ -7,6 +7,9 @@
 #include "rig/Input.h"
 #include "rig/Picture.h"
 #include "rig/WaitFor.h"
+#include "tools/tour/ChangingPlaces.h"
+
+#include <cstdio>
 
 using namespace rig;
 
@@ -42,7 +45,9 @@ void Require(bool reached, const std::string& complaint)
     }
 }
 
-Tour::Tour(const std::wstring& pictures) : folder(pictures), program(Program::Start()) {}
+Tour::Tour(const std::wstring& pictures, bool comparable)
+    : folder(pictures), isComparable(comparable), program(Program::Start())
+{}
 
 void Tour::Run()
 {
@@ -130,8 +135,7 @@ void Tour::CloseMenus()
             return true;
         }
         PressKey(VK_ESCAPE);
-        Sleep(100);
-        return OpenMenu() == nullptr;
+        return WaitFor([] { return OpenMenu() == nullptr; }, std::chrono::milliseconds(200));
     });
     Require(closed, "the key Escape does not close the menu");
 }
@@ -140,17 +144,26 @@ void Tour::Keep(const char* picture)
 {
     const std::string name(picture);
     Require(WaitFor(TopBarIsUpToDate), "the top bar shows another title for " + name);
-    const Picture screen = Picture::OfSettledScreen();
+    FinishPainting(); // on a busy machine a screen can rest before all is painted
+    Picture screen = Picture::OfSettledScreen();
+    if (isComparable) {
+        for (const RECT& place : ChangingPlaces(program.Dialog())) {
+            screen.Blank(place);
+        }
+    }
     Require(screen.Colours() >= fewestColours, "the screen is empty for " + name);
     Require(screen.SavePng(folder + L"\\" + std::wstring(name.begin(), name.end()) + L".png"),
             "cannot write the picture " + name + ".png");
+    printf("%s.png\n", picture);
 }
 
-void OpenPrograms(const std::vector<std::wstring>& names)
+OpenedPrograms OpenPrograms(const std::vector<std::wstring>& names)
 {
+    OpenedPrograms opened;
     for (const std::wstring& name : names) {
         const std::string complaint = std::string(name.begin(), name.end()) + " shows no window";
-        ChildProcess process(name + L".exe", L"", L"C:\\");
+        const ChildProcess& process =
+            *opened.emplace_back(std::make_unique<ChildProcess>(name + L".exe", L"", L"C:\\"));
         Require(process.Id() != 0, complaint);
         const DWORD id = process.Id();
         Require(WaitFor([=] { return ProcessOf(GetForegroundWindow()) == id; }), complaint);
@@ -163,6 +176,6 @@ void OpenPrograms(const std::vector<std::wstring>& names)
         Picture::OfSettledScreen();
         // In front of the keyboard is not yet the first of the windows, and lists follow the windows' order.
         Require(Raise(window), std::string(name.begin(), name.end()) + " does not come before the others");
-        process.Release();
     }
+    return opened;
 }

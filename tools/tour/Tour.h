@@ -4,6 +4,7 @@
 #include "rig/Program.h"
 
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -30,10 +31,11 @@ bool HasReport(HWND dialog);
 class Tour
 {
     std::wstring folder; // of the pictures, without a backslash at its end
+    bool isComparable;   // what no two tours have the same is blanked in the pictures
     rig::Program program;
 
   public:
-    explicit Tour(const std::wstring& pictures);
+    Tour(const std::wstring& pictures, bool comparable);
 
     // Every state in turn; throws TourError at the first that is not reached.
     void Run();
@@ -73,5 +75,6 @@ class Tour
 };
 
 // Starts Wine's own programs of these names one after the other, each behind the next; throws TourError when
-// one shows no window. They stay.
-void OpenPrograms(const std::vector<std::wstring>& names);
+// one shows no window.
+using OpenedPrograms = std::vector<std::unique_ptr<rig::ChildProcess>>;
+OpenedPrograms OpenPrograms(const std::vector<std::wstring>& names);

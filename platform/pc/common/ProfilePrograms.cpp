@@ -36,6 +36,7 @@ void AddProcessScript(Profile& profile, const std::wstring& program, std::wstrin
         {L"no-modules", &ProcessScript::noModules},
         {L"no-module-paths", &ProcessScript::noModulePaths},
         {L"no-heaps", &ProcessScript::noHeaps},
+        {L"hidden", &ProcessScript::hidden},
     };
     ProcessScript script{.program = program};
     for (bool more = true; more;) {

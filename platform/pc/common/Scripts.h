@@ -15,7 +15,7 @@ struct HeapScript
     std::vector<std::vector<unsigned>> heaps;
 };
 
-// What the device refuses to do with the processes of one program.
+// What the device refuses to do with the processes of one program, or to tell of them.
 struct ProcessScript
 {
     std::wstring program; // executable file name, lower case
@@ -25,6 +25,7 @@ struct ProcessScript
     bool noModules = false; // there is a snapshot, but no first module in it
     bool noModulePaths = false;
     bool noHeaps = false;
+    bool hidden = false; // not among the processes
 };
 
 struct StorageScript

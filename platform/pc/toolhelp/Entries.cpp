@@ -14,10 +14,25 @@ static bool HasRightSize(const Entry* entry)
     return false;
 }
 
+// The walk without the processes that the profile hides.
+static bool WalkShownProcesses(HANDLE snapshot, bool first, SystemProcess& process)
+{
+    bool found = WalkProcesses(snapshot, first, process);
+    while (found) {
+        const handheld::ProcessScript* const script =
+            handheld::ActiveProfile().FindProcessScript(process.name);
+        if (!script || !script->hidden) {
+            return true;
+        }
+        found = WalkProcesses(snapshot, false, process);
+    }
+    return false;
+}
+
 static BOOL FillProcess(HANDLE snapshot, bool first, PROCESSENTRY32* entry)
 {
     SystemProcess process = {};
-    if (!HasRightSize(entry) || !WalkProcesses(snapshot, first, process)) {
+    if (!HasRightSize(entry) || !WalkShownProcesses(snapshot, first, process)) {
         return FALSE;
     }
     *entry = {};

@@ -20,7 +20,22 @@ class PlatformRefusalsTest : public testing::Test
                       "cmd.exe = refuse-open, no-heaps\n"
                       "winver.exe = refuse-end, no-module-snapshot\n"
                       "notepad.exe = no-modules\n"
+                      "write.exe = hidden\n"
                       "unit_tests.exe = no-module-paths\n");
+    }
+
+    static bool IsListed(DWORD id)
+    {
+        const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS | TH32CS_SNAPNOHEAPS, 0);
+        EXPECT_NE(snapshot, INVALID_HANDLE_VALUE);
+        PROCESSENTRY32 process = {};
+        process.dwSize = sizeof process;
+        BOOL more = Process32First(snapshot, &process);
+        while (more && process.th32ProcessID != id) {
+            more = Process32Next(snapshot, &process);
+        }
+        EXPECT_TRUE(CloseToolhelp32Snapshot(snapshot));
+        return more != FALSE;
     }
 
     void SetUp() override
@@ -93,6 +108,17 @@ TEST_F(PlatformRefusalsTest, ADeviceWithoutABatteryTellsNothing)
     status.BatteryLifePercent = 12;
     EXPECT_FALSE(GetSystemPowerStatusEx(&status, TRUE));
     EXPECT_EQ(status.BatteryLifePercent, 12);
+}
+
+TEST_F(PlatformRefusalsTest, AHiddenProcessIsPassedOver)
+{
+    const ChildProgram hidden(L"C:\\windows\\system32\\write.exe");
+    const ChildProgram shown(L"C:\\windows\\system32\\cmd.exe");
+    const ChildProgram last(L"C:\\windows\\system32\\write.exe");
+    EXPECT_FALSE(IsListed(hidden.Id()));
+    EXPECT_TRUE(IsListed(shown.Id()));
+    EXPECT_FALSE(IsListed(last.Id()));
+    EXPECT_TRUE(IsListed(GetCurrentProcessId()));
 }
 
 TEST_F(PlatformRefusalsTest, HeapsCanBeRefused)

@@ -96,13 +96,16 @@ TEST(ProfileSectionsTest, EachRefusalHasItsWord)
 {
     const Profile profile = ParseProfile(L"[process]\na.exe = refuse-open\nb.exe = refuse-end\n"
                                          L"c.exe = no-module-snapshot\nd.exe = no-modules\n"
-                                         L"e.exe = no-module-paths\nF.exe = No-Heaps, refuse-end\n");
-    const wchar_t* const programs[] = {L"a.exe", L"b.exe", L"c.exe", L"d.exe", L"e.exe", L"C:\\Dir\\f.EXE"};
-    const bool expected[][6] = {
-        {true, false, false, false, false, false}, {false, true, false, false, false, false},
-        {false, false, true, false, false, false}, {false, false, false, true, false, false},
-        {false, false, false, false, true, false}, {false, true, false, false, false, true}};
-    for (size_t i = 0; i < 6; i++) {
+                                         L"e.exe = no-module-paths\nF.exe = No-Heaps, refuse-end\n"
+                                         L"g.exe = hidden\n");
+    const wchar_t* const programs[] = {L"a.exe", L"b.exe",          L"c.exe", L"d.exe",
+                                       L"e.exe", L"C:\\Dir\\f.EXE", L"g.exe"};
+    const bool expected[][7] = {
+        {true, false, false, false, false, false, false}, {false, true, false, false, false, false, false},
+        {false, false, true, false, false, false, false}, {false, false, false, true, false, false, false},
+        {false, false, false, false, true, false, false}, {false, true, false, false, false, true, false},
+        {false, false, false, false, false, false, true}};
+    for (size_t i = 0; i < 7; i++) {
         const handheld::ProcessScript* script = profile.FindProcessScript(programs[i]);
         ASSERT_NE(script, nullptr) << i;
         EXPECT_EQ(script->refusesOpen, expected[i][0]) << i;
@@ -111,6 +114,7 @@ TEST(ProfileSectionsTest, EachRefusalHasItsWord)
         EXPECT_EQ(script->noModules, expected[i][3]) << i;
         EXPECT_EQ(script->noModulePaths, expected[i][4]) << i;
         EXPECT_EQ(script->noHeaps, expected[i][5]) << i;
+        EXPECT_EQ(script->hidden, expected[i][6]) << i;
     }
 }
 

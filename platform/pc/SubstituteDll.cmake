@@ -48,6 +48,10 @@ function(qv_substitute_dll name)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_options(${name} PRIVATE -static)
     target_link_libraries(${name} PRIVATE qv_compile_options qv_pc_common ${QV_SUBSTITUTE_LIBRARIES})
+    list(LENGTH sources count)
+    if(count GREATER 3) # for fewer it does not pay
+        target_precompile_headers(${name} PRIVATE <windows.h> <string>)
+    endif()
 
     set(archive ${CMAKE_CURRENT_BINARY_DIR}/libimport_${name}.a)
     add_custom_command(

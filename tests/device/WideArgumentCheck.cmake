@@ -19,8 +19,9 @@ if(count LESS 50)
     message(FATAL_ERROR "only ${count} source files were found")
 endif()
 
-# All files are compiled alike. Without the compiler, its output and its source; the other compiler knows this one's
-# processor by another option and has warnings of its own.
+# All files are compiled alike. Without the compiler, its precompiled header, its output and its source; the other compiler
+# knows this one's processor by another option and has warnings of its own.
+string(REGEX REPLACE " -include [^ ]*/cmake_pch\\.hxx" "" arguments "${arguments}")
 separate_arguments(arguments UNIX_COMMAND "${arguments}")
 list(POP_FRONT arguments)
 list(FIND arguments -o place)

@@ -16,7 +16,7 @@ QV_DEVICE_PACKAGES=(
     cmake ninja-build gcc libc6-dev g++ binutils-mingw-w64-x86-64 mingw-w64-common gcc-arm-none-eabi
     g++-mingw-w64-x86-64-posix librsvg2-bin imagemagick
 )
-# clang-tools brings clang-query.
+# clang-tools brings clang-query and clang++.
 QV_TEST_PACKAGES=(clang-format clang-tidy clang-tools file)
 # What the packages are made, signed and checked with.
 QV_PACKAGE_PACKAGES=(gcab cabextract osslsigncode openssl zip unzip)

@@ -1,15 +1,20 @@
-# The sources below FOLDERS must pass clang-tidy with the project's configuration: with all of it, or with CHECKS alone.
+# The sources below FOLDERS must pass clang-tidy with the project's configuration, of which CHECKS takes what it names.
 #
-# Most of the time would go into the headers of the system and of GoogleTest, again for every file. So with TOGETHER the
-# files of a folder become one: the tests, which define nothing that another file knows, each in a namespace of its own.
+# Most of the time would go into the headers of the system and of GoogleTest, which the checks look through again for
+# every file. So with TOGETHER files that are compiled alike become one: those of a folder, and all tests of an executable.
+# Without it the headers of the file PRECOMPILED are read once for all.
 #
 #   FOLDERS       from ROOT on, with blanks between
-#   DATABASE      compile_commands.json; its compiler's own warnings are left out, clang has others
+#   DATABASE      compile_commands.json, in which a unit (cmake/Units.cmake) stands for the files that it includes; its
+#                 compiler's own warnings are left out, clang has others
 #   FLAGS         what clang needs besides, to find the compiler's headers and to know the processor
 #   HOST_FOLDERS  those whose programs run on the building machine; the database does not know them
 #   HOST_FLAGS    with what these are compiled
+#   PRECOMPILED   a header from ROOT on, and CLANG, which reads it
 #   WORK          a folder for what is made on the way
 cmake_minimum_required(VERSION 3.25)
+include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/Units.cmake)
+set(most_together 64) # so that there is work for every processor, and memory for the work
 cmake_host_system_information(RESULT processors QUERY NUMBER_OF_LOGICAL_CORES)
 separate_arguments(FOLDERS)
 separate_arguments(HOST_FOLDERS)
@@ -26,27 +31,23 @@ function(qv_write_unit name key)
         endif()
     else()
         set(source ${WORK}/${name}.cpp)
-        set(text "${prelude_${key}}")
-        # What a file includes must stand before the namespace it is in; there it is not read again.
-        foreach(file IN LISTS ARGN)
-            file(STRINGS ${file} includes REGEX "^#include ")
-            list(JOIN includes "\n" includes)
-            string(APPEND text "${includes}\n")
-        endforeach()
-        foreach(file IN LISTS ARGN)
-            set(include "#include \"${file}\"\n")
-            file(STRINGS ${file} test REGEX "^TEST" LIMIT_COUNT 1)
-            if(test AND ARGC GREATER 3 AND file MATCHES "/([A-Za-z0-9]+)\\.cpp$")
-                string(TOLOWER in_${CMAKE_MATCH_1} space)
-                set(include "namespace ${space} {\n${include}}\n")
-            endif()
-            string(APPEND text "${include}")
-        endforeach()
+        qv_unit_text(text ${ARGN})
+        set(text "${prelude_${key}}${text}")
         file(WRITE ${source} "${text}")
+    endif()
+    if(PRECOMPILED AND NOT source MATCHES "\\.c$")
+        string(MD5 header "${flags}")
+        set(header ${WORK}/${header}.pch)
+        if(NOT EXISTS ${header})
+            separate_arguments(arguments UNIX_COMMAND "${flags}")
+            execute_process(COMMAND ${CLANG} -x c++-header ${arguments} -w ${ROOT}/${PRECOMPILED} -o ${header}
+                COMMAND_ERROR_IS_FATAL ANY)
+        endif()
+        string(APPEND flags " -include-pch ${header}")
     endif()
     set(checks "")
     if(CHECKS)
-        set(checks "--checks='-*,${CHECKS}'")
+        set(checks "--checks='${CHECKS}'")
     endif()
     file(APPEND ${WORK}/jobs "'${CLANG_TIDY}' --quiet --config-file='${ROOT}/.clang-tidy' ${checks} '${source}' -- ${flags} -w "
         ">'${WORK}/${name}.log' 2>&1 || echo ${name} >>'${WORK}/failed'\n")
@@ -66,13 +67,28 @@ macro(qv_run_units)
 endmacro()
 
 set(units "")
-# qv_sort_in(<file> <flags> <prelude>): files of one folder that are compiled alike make a unit.
+set(kinds "")
+# qv_sort_in(<file> <flags> <prelude>): files that are compiled alike make a unit.
 macro(qv_sort_in file flags prelude)
-    get_filename_component(key ${file} DIRECTORY)
+    get_filename_component(kind ${file} DIRECTORY)
     if(NOT TOGETHER OR "${file}" MATCHES "\\.c$")
-        set(key ${file})
+        set(kind ${file})
+    elseif("${file}" MATCHES "^${ROOT}/tests/")
+        set(kind test)
     endif()
-    string(MD5 key "${key} ${flags} ${prelude}")
+    string(MD5 kind "${kind} ${flags} ${prelude}")
+    set(key ${kind}_0)
+    if(kind IN_LIST kinds)
+        set(key ${kind}_${last_${kind}})
+        list(LENGTH members_${key} size)
+        if(size EQUAL most_together)
+            math(EXPR last_${kind} "${last_${kind}} + 1")
+            set(key ${kind}_${last_${kind}})
+        endif()
+    else()
+        list(APPEND kinds ${kind})
+        set(last_${kind} 0)
+    endif()
     set(flags_${key} "${flags}")
     set(prelude_${key} "${prelude}")
     list(APPEND members_${key} ${file})
@@ -90,19 +106,27 @@ set(command "")
 foreach(line IN LISTS lines)
     if(line MATCHES "^  \"command\": \"(.*)\",$")
         string(REPLACE "\\\"" "\"" command "${CMAKE_MATCH_1}")
-    elseif(line MATCHES "^  \"file\": \"(.*)\",?$" AND CMAKE_MATCH_1 IN_LIST sources AND NOT CMAKE_MATCH_1 IN_LIST known)
-        set(file ${CMAKE_MATCH_1})
-        list(APPEND known ${file})
-        # GCC's precompiled header means nothing to clang, but would be taken when the command line names it.
+    elseif(line MATCHES "^  \"file\": \"(.*)\",?$")
+        set(files ${CMAKE_MATCH_1})
+        # GCC's precompiled header means nothing to clang, but would be taken when the command line names it. Together the
+        # tests need what it holds; any other file includes what it needs.
         set(prelude "")
-        if(command MATCHES " -include ([^ ]*/cmake_pch\\.hxx)")
+        if(TOGETHER AND command MATCHES " -include ([^ ]*/cmake_pch\\.hxx)")
             set(prelude "#include \"${CMAKE_MATCH_1}\"\n")
         endif()
-        if(NOT command MATCHES "-g[+][+][^ ]* (.*) -o [^ ]* -c ")
-            message(FATAL_ERROR "the command that compiles ${file} has another form: ${command}")
+        if(files MATCHES "/units/[^/]*$")
+            qv_unit_members(files ${files})
         endif()
-        string(REGEX REPLACE " -include [^ ]*/cmake_pch\\.hxx| -W[^ ]*" "" command " ${CMAKE_MATCH_1}")
-        qv_sort_in(${file} "${FLAGS} ${command}" "${prelude}")
+        foreach(file IN LISTS files)
+            if(file IN_LIST sources AND NOT file IN_LIST known)
+                if(NOT command MATCHES "-g[+][+][^ ]* (.*) -o [^ ]* -c ")
+                    message(FATAL_ERROR "the command that compiles ${file} has another form: ${command}")
+                endif()
+                string(REGEX REPLACE " -include [^ ]*/cmake_pch\\.hxx| -W[^ ]*" "" flags " ${CMAKE_MATCH_1}")
+                list(APPEND known ${file})
+                qv_sort_in(${file} "${FLAGS} ${flags}" "${prelude}")
+            endif()
+        endforeach()
     endif()
 endforeach()
 foreach(file IN LISTS sources)

@@ -1,12 +1,14 @@
 # Programs that run on the building machine, during the build or in its tests. The project's own compiler is a cross
 # compiler, so these are compiled by explicit commands.
+include(${CMAKE_CURRENT_LIST_DIR}/../cmake/Units.cmake)
 
 find_program(QV_HOST_CXX NAMES c++ g++ clang++ DOC "C++ compiler for programs that run on the building machine")
 if(NOT QV_HOST_CXX)
     message(FATAL_ERROR "No C++ compiler for the building machine was found (Debian: g++).")
 endif()
 
-set(QV_HOST_CXX_FLAGS -std=c++20 -O0 -Wall -Wextra -Wshadow -Wconversion -Wcast-qual -Wnon-virtual-dtor -Werror)
+set(QV_HOST_CXX_FLAGS -std=c++20 -O0 -Wall -Wextra -Wshadow -Wconversion -Wcast-qual -Wnon-virtual-dtor -Werror
+    ${QV_UNIT_OPTIONS})
 set(QV_HOST_LINK_FLAGS "")
 if(QV_CHECKED)
     # Hostile inputs have to be refused without a single bad access.
@@ -51,8 +53,9 @@ endfunction()
 # <prefix>.<suite> of its files. A file holds the suite of its name; files without one are helpers.
 function(qv_host_tests name)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "PREFIX" "TESTS;SOURCES;DEFINITIONS")
+    qv_make_units(units ${name} PER 8 SOURCES ${ARG_TESTS})
     qv_host_program(${name} program
-        SOURCES ${ARG_TESTS} ${ARG_SOURCES}
+        SOURCES ${units} ${ARG_SOURCES}
         DEFINITIONS ${ARG_DEFINITIONS}
         LIBRARIES -lgtest_main -lgtest -pthread)
     string(REGEX REPLACE "[.].*" "" label ${ARG_PREFIX})

@@ -46,19 +46,19 @@ struct WindowCount
 
 } // namespace
 
-static BOOL CALLBACK CountChild(HWND, LPARAM count)
+static BOOL CALLBACK CountOneWindow(HWND, LPARAM count)
 {
     reinterpret_cast<WindowCount*>(count)->windows++;
     return TRUE;
 }
 
-static BOOL CALLBACK CountWindow(HWND window, LPARAM count)
+static BOOL CALLBACK CountWindowOfProcess(HWND window, LPARAM count)
 {
     DWORD process = 0;
     GetWindowThreadProcessId(window, &process);
     if (process == reinterpret_cast<WindowCount*>(count)->process) {
-        CountChild(window, count);
-        EnumChildWindows(window, CountChild, count);
+        CountOneWindow(window, count);
+        EnumChildWindows(window, CountOneWindow, count);
     }
     return TRUE;
 }
@@ -71,7 +71,7 @@ ProcessObjects ProcessObjects::Of(DWORD process)
         CloseHandle(handle);
     }
     WindowCount count{process};
-    EnumWindows(CountWindow, reinterpret_cast<LPARAM>(&count));
+    EnumWindows(CountWindowOfProcess, reinterpret_cast<LPARAM>(&count));
     objects.windows = count.windows;
     return objects;
 }

@@ -3,7 +3,7 @@
 
 ScriptedClaims* ScriptedClaims::current = nullptr;
 
-static const auto library = reinterpret_cast<HMODULE>(0x7C0020);
+static const auto claimsLibrary = reinterpret_cast<HMODULE>(0x7C0020);
 
 static std::string Narrow(const wchar_t* text)
 {
@@ -29,14 +29,14 @@ ScriptedClaims::ScriptedClaims()
     current = this;
     load.instead = [this](const wchar_t* name) {
         calls.push_back("load " + Narrow(name));
-        return hasLibrary ? library : nullptr;
+        return hasLibrary ? claimsLibrary : nullptr;
     };
     find.instead = [this](HMODULE module, const wchar_t* name) {
-        calls.push_back((module == library ? "find " : "find elsewhere ") + Narrow(name));
+        calls.push_back((module == claimsLibrary ? "find " : "find elsewhere ") + Narrow(name));
         return hasFunction ? reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&Drop)) : nullptr;
     };
     free.instead = [this](HMODULE module) {
-        calls.emplace_back(module == library ? "free" : "free another");
+        calls.emplace_back(module == claimsLibrary ? "free" : "free another");
         return TRUE;
     };
     claim.instead = [this](HWND window, int id, UINT modifiers, UINT vk) {

@@ -5,15 +5,15 @@
 #include <cstring>
 #include <set>
 
-static ScriptedDevice* script;
-static ImportHook* originals;
+static ScriptedDevice* scriptedDevice;
+static ImportHook* deviceOriginals;
 static size_t nextCard;
-static std::set<HANDLE> openSearches;
+static std::set<HANDLE> openCardSearches;
 static const UINT_PTR firstHandle = 0x7A5C0000; // none that the system gives
 static const UINT_PTR handleCount = 0x1000;
 static UINT_PTR nextHandle;
 
-enum Function
+enum DeviceFunction
 {
     AskMemory, // in the order of the hooks
     AskSize,
@@ -27,23 +27,23 @@ enum Function
 static HANDLE OpenSearch()
 {
     const HANDLE search = reinterpret_cast<HANDLE>(firstHandle + nextHandle++ % handleCount);
-    openSearches.insert(search);
+    openCardSearches.insert(search);
     return search;
 }
 
 static void WINAPI TellMemory(MEMORYSTATUS* status)
 {
-    script->calls.emplace_back(L"memory");
-    script->memoryLength = status->dwLength;
-    *status = script->memory;
+    scriptedDevice->calls.emplace_back(L"memory");
+    scriptedDevice->memoryLength = status->dwLength;
+    *status = scriptedDevice->memory;
 }
 
 static BOOL WINAPI TellSize(const wchar_t* path, ULARGE_INTEGER* available, ULARGE_INTEGER* total,
                             ULARGE_INTEGER* free)
 {
-    script->calls.push_back(std::wstring(L"size ") + path);
-    const auto found = script->volumes.find(path);
-    if (found == script->volumes.end() || !found->second.answers) {
+    scriptedDevice->calls.push_back(std::wstring(L"size ") + path);
+    const auto found = scriptedDevice->volumes.find(path);
+    if (found == scriptedDevice->volumes.end() || !found->second.answers) {
         return FALSE;
     }
     if (available) {
@@ -61,10 +61,10 @@ static BOOL WINAPI TellSize(const wchar_t* path, ULARGE_INTEGER* available, ULAR
 // A name of the whole length has no end, and what lies behind it is none of it.
 static BOOL GiveCard(WIN32_FIND_DATAW* card)
 {
-    if (nextCard >= script->cards.size()) {
+    if (nextCard >= scriptedDevice->cards.size()) {
         return FALSE;
     }
-    const std::wstring& name = script->cards[nextCard++];
+    const std::wstring& name = scriptedDevice->cards[nextCard++];
     memset(card, 'X', sizeof *card);
     memcpy(card->cFileName, name.c_str(), std::min<size_t>(name.size() + 1, MAX_PATH) * sizeof(wchar_t));
     return TRUE;
@@ -72,49 +72,54 @@ static BOOL GiveCard(WIN32_FIND_DATAW* card)
 
 static HANDLE WINAPI GiveFirstCard(WIN32_FIND_DATAW* card)
 {
-    script->calls.emplace_back(L"first card");
+    scriptedDevice->calls.emplace_back(L"first card");
     const auto* bytes = reinterpret_cast<const char*>(card);
-    script->clearRecord = std::all_of(bytes, bytes + sizeof *card, [](char each) { return each == 0; });
+    scriptedDevice->clearRecord =
+        std::all_of(bytes, bytes + sizeof *card, [](char each) { return each == 0; });
     nextCard = 0;
     return GiveCard(card) ? OpenSearch() : INVALID_HANDLE_VALUE;
 }
 
 static BOOL WINAPI GiveNextCard(HANDLE search, WIN32_FIND_DATAW* card)
 {
-    script->calls.emplace_back(openSearches.count(search) ? L"next card" : L"next card of no search");
+    scriptedDevice->calls.emplace_back(openCardSearches.count(search) ? L"next card"
+                                                                      : L"next card of no search");
     return GiveCard(card);
 }
 
 static HANDLE WINAPI LookFor(const wchar_t* path, WIN32_FIND_DATAW* data)
 {
     const auto isOne = [&](const std::wstring& card) { return L"\\" + card == path; };
-    const auto found = script->volumes.find(path);
-    if (found == script->volumes.end() && std::none_of(script->cards.begin(), script->cards.end(), isOne)) {
-        return originals[FindFirst].Original<HANDLE WINAPI(const wchar_t*, WIN32_FIND_DATAW*)>()(path, data);
+    const auto found = scriptedDevice->volumes.find(path);
+    if (found == scriptedDevice->volumes.end() &&
+        std::none_of(scriptedDevice->cards.begin(), scriptedDevice->cards.end(), isOne)) {
+        return deviceOriginals[FindFirst].Original<HANDLE WINAPI(const wchar_t*, WIN32_FIND_DATAW*)>()(path,
+                                                                                                       data);
     }
-    script->calls.push_back(std::wstring(L"look for ") + path);
-    return found != script->volumes.end() && found->second.exists ? OpenSearch() : INVALID_HANDLE_VALUE;
+    scriptedDevice->calls.push_back(std::wstring(L"look for ") + path);
+    return found != scriptedDevice->volumes.end() && found->second.exists ? OpenSearch()
+                                                                          : INVALID_HANDLE_VALUE;
 }
 
 static BOOL WINAPI CloseSearch(HANDLE search)
 {
     const auto number = reinterpret_cast<UINT_PTR>(search);
     if (search != INVALID_HANDLE_VALUE && number - firstHandle >= handleCount) {
-        return originals[EndFind].Original<BOOL WINAPI(HANDLE)>()(search);
+        return deviceOriginals[EndFind].Original<BOOL WINAPI(HANDLE)>()(search);
     }
-    const bool wasOpen = openSearches.erase(search) != 0;
-    script->calls.emplace_back(wasOpen ? L"close" : L"close of no search");
+    const bool wasOpen = openCardSearches.erase(search) != 0;
+    scriptedDevice->calls.emplace_back(wasOpen ? L"close" : L"close of no search");
     return wasOpen;
 }
 
 static BOOL WINAPI TellPower(SYSTEM_POWER_STATUS_EX* status, BOOL update)
 {
-    script->calls.emplace_back(L"power");
-    script->updates.push_back(update);
-    if (!script->hasBattery) {
+    scriptedDevice->calls.emplace_back(L"power");
+    scriptedDevice->updates.push_back(update);
+    if (!scriptedDevice->hasBattery) {
         return FALSE;
     }
-    *status = script->battery;
+    *status = scriptedDevice->battery;
     return TRUE;
 }
 
@@ -130,15 +135,15 @@ ScriptedDevice::ScriptedDevice()
     battery.BatteryFullLifeTime = 21600;
     battery.BackupBatteryLifePercent = 100;
     volumes[L"\\"] = {134217728, 83886080};
-    openSearches.clear();
-    originals = hooks;
-    script = this;
+    openCardSearches.clear();
+    deviceOriginals = hooks;
+    scriptedDevice = this;
 }
 
 ScriptedDevice::~ScriptedDevice()
 {
-    script = nullptr;
-    originals = nullptr;
+    scriptedDevice = nullptr;
+    deviceOriginals = nullptr;
 }
 
 void ScriptedDevice::AddCard(const std::wstring& name, uint64_t total, uint64_t free)

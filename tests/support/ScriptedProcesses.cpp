@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-static ScriptedProcesses* script;
+static ScriptedProcesses* scriptedProcesses;
 static const auto processSnapshot = reinterpret_cast<HANDLE>(0x6B6B0);
 static const auto moduleSnapshot = reinterpret_cast<HANDLE>(0x7C7C0);
 static std::vector<HANDLE> openSnapshots;
@@ -39,32 +39,32 @@ static bool IsOpen(HANDLE snapshot)
 static void Forget(HANDLE snapshot)
 {
     openSnapshots.erase(std::find(openSnapshots.begin(), openSnapshots.end(), snapshot));
-    script->open--;
+    scriptedProcesses->open--;
 }
 
 static HANDLE WINAPI TakeSnapshot(DWORD flags, DWORD processId)
 {
     if (flags & TH32CS_SNAPHEAPLIST) {
-        return script->Former<decltype(TakeSnapshot)>(TakeHook)(flags, processId);
+        return scriptedProcesses->Former<decltype(TakeSnapshot)>(TakeHook)(flags, processId);
     }
-    script->snapshots.emplace_back(flags, processId);
+    scriptedProcesses->snapshots.emplace_back(flags, processId);
     const bool ofModules = (flags & TH32CS_SNAPMODULE) != 0;
-    if (!(ofModules ? script->givesModules : script->givesProcesses)) {
+    if (!(ofModules ? scriptedProcesses->givesModules : scriptedProcesses->givesProcesses)) {
         return INVALID_HANDLE_VALUE;
     }
     moduleOwner = ofModules ? processId : moduleOwner;
     openSnapshots.push_back(ofModules ? moduleSnapshot : processSnapshot);
-    script->open++;
+    scriptedProcesses->open++;
     return openSnapshots.back();
 }
 
 static BOOL WINAPI CloseSnapshot(HANDLE snapshot)
 {
     if (snapshot != processSnapshot && snapshot != moduleSnapshot) {
-        return script->Former<decltype(CloseSnapshot)>(CloseHook)(snapshot);
+        return scriptedProcesses->Former<decltype(CloseSnapshot)>(CloseHook)(snapshot);
     }
     if (!IsOpen(snapshot)) {
-        script->badRequest = true;
+        scriptedProcesses->badRequest = true;
         return FALSE;
     }
     Forget(snapshot);
@@ -74,21 +74,21 @@ static BOOL WINAPI CloseSnapshot(HANDLE snapshot)
 static BOOL WINAPI CloseAnyHandle(HANDLE handle)
 {
     if (!IsOpen(handle)) {
-        return script->Former<decltype(CloseAnyHandle)>(CloseHandleHook)(handle);
+        return scriptedProcesses->Former<decltype(CloseAnyHandle)>(CloseHandleHook)(handle);
     }
     Forget(handle);
-    script->closedAsHandles++;
+    scriptedProcesses->closedAsHandles++;
     return TRUE;
 }
 
 static BOOL WINAPI GiveProcess(HANDLE snapshot, PROCESSENTRY32* entry)
 {
-    script->badRequest |=
+    scriptedProcesses->badRequest |=
         snapshot != processSnapshot || !IsOpen(snapshot) || entry->dwSize != sizeof(PROCESSENTRY32);
-    if (nextProcess >= script->processes.size()) {
+    if (nextProcess >= scriptedProcesses->processes.size()) {
         return FALSE;
     }
-    const ScriptedProcess& process = script->processes[nextProcess++];
+    const ScriptedProcess& process = scriptedProcesses->processes[nextProcess++];
     entry->th32ProcessID = process.id;
     entry->cntThreads = process.threads;
     Copy(process.name, entry->szExeFile, MAX_PATH);
@@ -97,15 +97,15 @@ static BOOL WINAPI GiveProcess(HANDLE snapshot, PROCESSENTRY32* entry)
 
 static BOOL WINAPI FirstProcess(HANDLE snapshot, PROCESSENTRY32* entry)
 {
-    nextProcess = script->hasFirstProcess ? 0 : script->processes.size();
+    nextProcess = scriptedProcesses->hasFirstProcess ? 0 : scriptedProcesses->processes.size();
     return GiveProcess(snapshot, entry);
 }
 
 static BOOL WINAPI GiveModule(HANDLE snapshot, MODULEENTRY32* entry)
 {
-    script->badRequest |=
+    scriptedProcesses->badRequest |=
         snapshot != moduleSnapshot || !IsOpen(snapshot) || entry->dwSize != sizeof(MODULEENTRY32);
-    const ScriptedProcess* process = script->Find(moduleOwner);
+    const ScriptedProcess* process = scriptedProcesses->Find(moduleOwner);
     if (!process || nextModule >= process->modules.size()) {
         return FALSE;
     }
@@ -126,11 +126,12 @@ static BOOL WINAPI FirstModule(HANDLE snapshot, MODULEENTRY32* entry)
 
 static DWORD WINAPI GivePath(HMODULE module, wchar_t* buffer, DWORD size)
 {
-    const ScriptedProcess* process = script->Find(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(module)));
+    const ScriptedProcess* process =
+        scriptedProcesses->Find(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(module)));
     if (!process) {
-        return script->Former<decltype(GivePath)>(PathHook)(module, buffer, size);
+        return scriptedProcesses->Former<decltype(GivePath)>(PathHook)(module, buffer, size);
     }
-    script->pathSizes.push_back(size);
+    scriptedProcesses->pathSizes.push_back(size);
     if (process->path.empty()) {
         return 0;
     }
@@ -140,7 +141,7 @@ static DWORD WINAPI GivePath(HMODULE module, wchar_t* buffer, DWORD size)
 
 static DWORD WINAPI GiveVersion(DWORD processId)
 {
-    const ScriptedProcess* process = script->Find(processId);
+    const ScriptedProcess* process = scriptedProcesses->Find(processId);
     return process ? process->version : 0;
 }
 
@@ -155,13 +156,13 @@ ScriptedProcesses::ScriptedProcesses()
             {"GetProcessVersion", GiveVersion},
             {"CloseHandle", CloseAnyHandle}}
 {
-    script = this;
+    scriptedProcesses = this;
     openSnapshots.clear();
 }
 
 ScriptedProcesses::~ScriptedProcesses()
 {
-    script = nullptr;
+    scriptedProcesses = nullptr;
 }
 
 void ScriptedProcesses::Add(DWORD id, const std::wstring& name, const std::wstring& path)

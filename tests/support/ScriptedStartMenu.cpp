@@ -8,15 +8,15 @@
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor" // COM's interfaces have none
 
-static ScriptedStartMenu* script;
-static ImportHook* originals;
+static ScriptedStartMenu* scriptedMenu;
+static ImportHook* menuOriginals;
 static char item; // any place will do for a list that nobody looks into
 
-enum Function
+enum MenuFunction
 {
-    FindFirst = 4, // in the order of the hooks
-    FindNext,
-    FindEnd
+    FindFirstItem = 4, // in the order of the hooks
+    FindNextItem,
+    FindItemsEnd
 };
 
 namespace {
@@ -34,16 +34,16 @@ class Allocator final : public IMalloc
     ULONG STDMETHODCALLTYPE AddRef() override { return 1; }
     ULONG STDMETHODCALLTYPE Release() override
     {
-        script->calls.emplace_back(L"release");
-        script->allocators--;
+        scriptedMenu->calls.emplace_back(L"release");
+        scriptedMenu->allocators--;
         return 1;
     }
     void* STDMETHODCALLTYPE Alloc(SIZE_T) override { return nullptr; }
     void* STDMETHODCALLTYPE Realloc(void*, SIZE_T) override { return nullptr; }
     void STDMETHODCALLTYPE Free(void* block) override
     {
-        script->calls.emplace_back(block == &item ? L"free" : L"free of something else");
-        script->items--;
+        scriptedMenu->calls.emplace_back(block == &item ? L"free" : L"free of something else");
+        scriptedMenu->items--;
     }
     SIZE_T STDMETHODCALLTYPE GetSize(void*) override { return 0; }
     int STDMETHODCALLTYPE DidAlloc(void*) override { return 0; }
@@ -54,50 +54,50 @@ class Allocator final : public IMalloc
 
 #pragma GCC diagnostic pop
 
-static std::map<HANDLE, Search> openSearches;
+static std::map<HANDLE, Search> openItemSearches;
 static UINT_PTR nextSearch;
 static constexpr UINT_PTR firstSearch = 0x5A5C0000; // none that the system gives
 
 static HRESULT WINAPI GiveAllocator(IMalloc** allocator)
 {
     static Allocator only;
-    script->calls.emplace_back(L"allocator");
-    if (FAILED(script->allocatorAnswer)) {
-        return script->allocatorAnswer;
+    scriptedMenu->calls.emplace_back(L"allocator");
+    if (FAILED(scriptedMenu->allocatorAnswer)) {
+        return scriptedMenu->allocatorAnswer;
     }
-    script->allocators++;
+    scriptedMenu->allocators++;
     *allocator = &only;
-    return script->allocatorAnswer;
+    return scriptedMenu->allocatorAnswer;
 }
 
 static HRESULT WINAPI GiveLocation(HWND owner, int folder, ITEMIDLIST** list)
 {
-    script->calls.push_back(L"location " + std::to_wstring(folder));
-    script->askedOwner = owner;
-    if (SUCCEEDED(script->locationAnswer) && script->givesItem) {
-        script->items++;
+    scriptedMenu->calls.push_back(L"location " + std::to_wstring(folder));
+    scriptedMenu->askedOwner = owner;
+    if (SUCCEEDED(scriptedMenu->locationAnswer) && scriptedMenu->givesItem) {
+        scriptedMenu->items++;
         *list = reinterpret_cast<ITEMIDLIST*>(&item);
     }
-    return script->locationAnswer;
+    return scriptedMenu->locationAnswer;
 }
 
 // A path of the whole room has no end.
-static BOOL WINAPI GivePath(const ITEMIDLIST* list, wchar_t* path)
+static BOOL WINAPI GiveItemPath(const ITEMIDLIST* list, wchar_t* path)
 {
-    script->calls.emplace_back(list ? L"path" : L"path of nothing");
-    if (!script->givesPath) {
+    scriptedMenu->calls.emplace_back(list ? L"path" : L"path of nothing");
+    if (!scriptedMenu->givesPath) {
         return FALSE;
     }
-    const size_t length = std::min<size_t>(script->place.size() + 1, MAX_PATH);
-    wmemcpy(path, script->place.c_str(), length);
+    const size_t length = std::min<size_t>(scriptedMenu->place.size() + 1, MAX_PATH);
+    wmemcpy(path, scriptedMenu->place.c_str(), length);
     return TRUE;
 }
 
 static BOOL WINAPI GiveTarget(const wchar_t* shortcut, wchar_t* target, int size)
 {
-    script->badRequest = script->badRequest || size != 260;
-    const auto found = script->targets.find(shortcut);
-    if (found == script->targets.end()) {
+    scriptedMenu->badRequest = scriptedMenu->badRequest || size != 260;
+    const auto found = scriptedMenu->targets.find(shortcut);
+    if (found == scriptedMenu->targets.end()) {
         return FALSE;
     }
     const size_t length = std::min(found->second.size() + 1, static_cast<size_t>(size));
@@ -124,18 +124,19 @@ static HANDLE WINAPI Begin(const wchar_t* path, FINDEX_INFO_LEVELS level, void* 
 {
     const std::wstring whole = path;
     const size_t end = whole.find_last_of(L'\\') + 1;
-    const auto folder = script->folders.find(whole.substr(0, end));
-    if (folder == script->folders.end()) {
-        return originals[FindFirst].Original<decltype(Begin)>()(path, level, data, limit, filter, flags);
+    const auto folder = scriptedMenu->folders.find(whole.substr(0, end));
+    if (folder == scriptedMenu->folders.end()) {
+        return menuOriginals[FindFirstItem].Original<decltype(Begin)>()(path, level, data, limit, filter,
+                                                                        flags);
     }
-    script->calls.push_back(L"search " + whole);
+    scriptedMenu->calls.push_back(L"search " + whole);
     const bool forFolders = whole.substr(end) == L"*";
     const FINDEX_SEARCH_OPS expected = forFolders ? FindExSearchLimitToDirectories : FindExSearchNameMatch;
-    script->badRequest = script->badRequest || level != FindExInfoStandard || limit != expected || filter ||
-                         flags || (!forFolders && whole.substr(end) != L"*.lnk");
+    scriptedMenu->badRequest = scriptedMenu->badRequest || level != FindExInfoStandard || limit != expected ||
+                               filter || flags || (!forFolders && whole.substr(end) != L"*.lnk");
     Search search;
     for (const ScriptedStartMenu::Entry& entry : folder->second) {
-        if (forFolders ? entry.isFolder || !script->keepsToFolders : EndsLikeAShortcut(entry.name)) {
+        if (forFolders ? entry.isFolder || !scriptedMenu->keepsToFolders : EndsLikeAShortcut(entry.name)) {
             search.found.push_back(entry);
         }
     }
@@ -143,17 +144,17 @@ static HANDLE WINAPI Begin(const wchar_t* path, FINDEX_INFO_LEVELS level, void* 
         return INVALID_HANDLE_VALUE;
     }
     Give(search.found[search.next++], data);
-    script->searches++;
+    scriptedMenu->searches++;
     HANDLE handle = reinterpret_cast<HANDLE>(firstSearch + nextSearch++ % 0x10000);
-    openSearches[handle] = std::move(search);
+    openItemSearches[handle] = std::move(search);
     return handle;
 }
 
 static BOOL WINAPI Continue(HANDLE handle, WIN32_FIND_DATAW* data)
 {
-    const auto open = openSearches.find(handle);
-    if (open == openSearches.end()) {
-        return originals[FindNext].Original<decltype(Continue)>()(handle, data);
+    const auto open = openItemSearches.find(handle);
+    if (open == openItemSearches.end()) {
+        return menuOriginals[FindNextItem].Original<decltype(Continue)>()(handle, data);
     }
     Search& search = open->second;
     if (search.next == search.found.size()) {
@@ -165,32 +166,32 @@ static BOOL WINAPI Continue(HANDLE handle, WIN32_FIND_DATAW* data)
 
 static BOOL WINAPI End(HANDLE handle)
 {
-    if (openSearches.erase(handle) == 0) {
-        return originals[FindEnd].Original<decltype(End)>()(handle);
+    if (openItemSearches.erase(handle) == 0) {
+        return menuOriginals[FindItemsEnd].Original<decltype(End)>()(handle);
     }
-    script->searches--;
+    scriptedMenu->searches--;
     return TRUE;
 }
 
 ScriptedStartMenu::ScriptedStartMenu()
     : hooks{{"ceshell.dll", 12, GiveAllocator},
             {"ceshell.dll", 10, GiveLocation},
-            {"ceshell.dll", 11, GivePath},
+            {"ceshell.dll", 11, GiveItemPath},
             {"ceshell.dll", 18, GiveTarget},
             {"FindFirstFileExW", Begin},
             {"FindNextFileW", Continue},
             {"FindClose", End}}
 {
     folders[L"\\Menu\\"] = {};
-    openSearches.clear();
-    originals = hooks;
-    script = this;
+    openItemSearches.clear();
+    menuOriginals = hooks;
+    scriptedMenu = this;
 }
 
 ScriptedStartMenu::~ScriptedStartMenu()
 {
-    script = nullptr;
-    originals = nullptr;
+    scriptedMenu = nullptr;
+    menuOriginals = nullptr;
 }
 
 void ScriptedStartMenu::AddFolder(const std::wstring& folder)

@@ -1,7 +1,7 @@
 // Heaps of processes that exist only in a script.
 #include "tests/unit/ScriptedHeaps.h"
 
-static ScriptedHeaps* script;
+static ScriptedHeaps* scriptedHeaps;
 static const auto snapshotHandle = reinterpret_cast<HANDLE>(0x5A5A);
 static const DWORD firstHeapId = 0x40000;
 static DWORD process; // of the open snapshot
@@ -10,27 +10,27 @@ static size_t blockNumber;
 
 static HANDLE WINAPI TakeSnapshot(DWORD flags, DWORD processId)
 {
-    script->snapshots.push_back(processId);
-    script->snapshotFlags.push_back(flags);
-    if (script->processes.find(processId) == script->processes.end()) {
+    scriptedHeaps->snapshots.push_back(processId);
+    scriptedHeaps->snapshotFlags.push_back(flags);
+    if (scriptedHeaps->processes.find(processId) == scriptedHeaps->processes.end()) {
         return INVALID_HANDLE_VALUE;
     }
-    script->open++;
+    scriptedHeaps->open++;
     process = processId;
     return snapshotHandle;
 }
 
 static BOOL WINAPI CloseSnapshot(HANDLE snapshot)
 {
-    script->badRequest |= snapshot != snapshotHandle || script->open == 0;
-    script->open--;
+    scriptedHeaps->badRequest |= snapshot != snapshotHandle || scriptedHeaps->open == 0;
+    scriptedHeaps->open--;
     return TRUE;
 }
 
 static BOOL GiveHeap(HANDLE snapshot, HEAPLIST32* list)
 {
-    script->badRequest |= snapshot != snapshotHandle || list->dwSize != sizeof(HEAPLIST32);
-    if (heapNumber >= script->processes[process].size()) {
+    scriptedHeaps->badRequest |= snapshot != snapshotHandle || list->dwSize != sizeof(HEAPLIST32);
+    if (heapNumber >= scriptedHeaps->processes[process].size()) {
         return FALSE;
     }
     list->th32ProcessID = process;
@@ -52,8 +52,8 @@ static BOOL WINAPI NextHeap(HANDLE snapshot, HEAPLIST32* list)
 
 static BOOL GiveBlock(HEAPENTRY32* entry)
 {
-    script->badRequest |= entry->dwSize != sizeof(HEAPENTRY32);
-    const ScriptedHeap& heap = script->processes[process][heapNumber];
+    scriptedHeaps->badRequest |= entry->dwSize != sizeof(HEAPENTRY32);
+    const ScriptedHeap& heap = scriptedHeaps->processes[process][heapNumber];
     if (blockNumber >= heap.blocks.size()) {
         return FALSE;
     }
@@ -64,16 +64,16 @@ static BOOL GiveBlock(HEAPENTRY32* entry)
 
 static BOOL WINAPI FirstBlock(HANDLE snapshot, HEAPENTRY32* entry, DWORD processId, DWORD heapId)
 {
-    script->badRequest |= snapshot != snapshotHandle || processId != process ||
-                          heapId != firstHeapId + static_cast<DWORD>(heapNumber);
-    script->visitedHeaps.push_back(heapId - firstHeapId);
+    scriptedHeaps->badRequest |= snapshot != snapshotHandle || processId != process ||
+                                 heapId != firstHeapId + static_cast<DWORD>(heapNumber);
+    scriptedHeaps->visitedHeaps.push_back(heapId - firstHeapId);
     blockNumber = 0;
     return GiveBlock(entry);
 }
 
 static BOOL WINAPI NextBlock(HANDLE snapshot, HEAPENTRY32* entry)
 {
-    script->badRequest |= snapshot != snapshotHandle;
+    scriptedHeaps->badRequest |= snapshot != snapshotHandle;
     blockNumber++;
     return GiveBlock(entry);
 }
@@ -86,10 +86,10 @@ ScriptedHeaps::ScriptedHeaps()
             {"Heap32First", FirstBlock},
             {"Heap32Next", NextBlock}}
 {
-    script = this;
+    scriptedHeaps = this;
 }
 
 ScriptedHeaps::~ScriptedHeaps()
 {
-    script = nullptr;
+    scriptedHeaps = nullptr;
 }

@@ -1,14 +1,14 @@
 // A shell whose small-icon indexes are scripted.
 #include "tests/unit/ScriptedIcons.h"
 
-static ScriptedIcons* script;
+static ScriptedIcons* scriptedIcons;
 
 static DWORD_PTR WINAPI AnswerFileInfo(const wchar_t* path, DWORD, SHFILEINFOW* info, UINT, UINT flags)
 {
-    script->askedPaths.emplace_back(path);
-    script->askedFlags.push_back(flags);
-    const auto found = script->indexes.find(path);
-    if (found == script->indexes.end()) {
+    scriptedIcons->askedPaths.emplace_back(path);
+    scriptedIcons->askedFlags.push_back(flags);
+    const auto found = scriptedIcons->indexes.find(path);
+    if (found == scriptedIcons->indexes.end()) {
         return 0;
     }
     info->iIcon = found->second;
@@ -17,10 +17,10 @@ static DWORD_PTR WINAPI AnswerFileInfo(const wchar_t* path, DWORD, SHFILEINFOW* 
 
 ScriptedIcons::ScriptedIcons() : hook("SHGetFileInfo", AnswerFileInfo)
 {
-    script = this;
+    scriptedIcons = this;
 }
 
 ScriptedIcons::~ScriptedIcons()
 {
-    script = nullptr;
+    scriptedIcons = nullptr;
 }

@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <cwchar>
 
-static ScriptedWindows* script;
+static ScriptedWindows* scriptedWindows;
 static const UINT_PTR firstHandle = 0x7C0010;
 
 static int Copy(const std::wstring& text, wchar_t* buffer, int size)
 {
-    script->longestText = std::max(script->longestText, size);
+    scriptedWindows->longestText = std::max(scriptedWindows->longestText, size);
     const auto length = std::min(text.size(), static_cast<size_t>(size) - 1);
     wmemcpy(buffer, text.c_str(), length);
     buffer[length] = 0;
@@ -18,24 +18,24 @@ static int Copy(const std::wstring& text, wchar_t* buffer, int size)
 
 static BOOL WINAPI AnswerVisible(HWND window)
 {
-    const ScriptedWindow* found = script->Ask(window);
+    const ScriptedWindow* found = scriptedWindows->Ask(window);
     return found && found->visible;
 }
 
 static BOOL WINAPI AnswerEnabled(HWND window)
 {
-    const ScriptedWindow* found = script->Ask(window);
+    const ScriptedWindow* found = scriptedWindows->Ask(window);
     return found && found->enabled;
 }
 
 static BOOL WINAPI AnswerIsWindow(HWND window)
 {
-    return script->Ask(window) != nullptr;
+    return scriptedWindows->Ask(window) != nullptr;
 }
 
 static LONG_PTR WINAPI AnswerLong(HWND window, int index)
 {
-    const ScriptedWindow* found = script->Ask(window);
+    const ScriptedWindow* found = scriptedWindows->Ask(window);
     if (!found) {
         return 0;
     }
@@ -44,25 +44,25 @@ static LONG_PTR WINAPI AnswerLong(HWND window, int index)
 
 static HWND WINAPI AnswerWindow(HWND window, UINT relation)
 {
-    const ScriptedWindow* found = script->Ask(window);
+    const ScriptedWindow* found = scriptedWindows->Ask(window);
     return found && relation == GW_OWNER ? found->owner : nullptr;
 }
 
 static int WINAPI AnswerText(HWND window, wchar_t* buffer, int size)
 {
-    const ScriptedWindow* found = script->Ask(window);
+    const ScriptedWindow* found = scriptedWindows->Ask(window);
     return found ? Copy(found->title, buffer, size) : 0;
 }
 
 static int WINAPI AnswerClass(HWND window, wchar_t* buffer, int size)
 {
-    const ScriptedWindow* found = script->Ask(window);
+    const ScriptedWindow* found = scriptedWindows->Ask(window);
     return found ? Copy(found->className, buffer, size) : 0;
 }
 
 static DWORD WINAPI AnswerProcess(HWND window, DWORD* processId)
 {
-    const ScriptedWindow* found = script->Ask(window);
+    const ScriptedWindow* found = scriptedWindows->Ask(window);
     if (found) {
         *processId = found->processId;
     }
@@ -71,7 +71,7 @@ static DWORD WINAPI AnswerProcess(HWND window, DWORD* processId)
 
 static BOOL WINAPI AnswerRect(HWND window, RECT* rect)
 {
-    const ScriptedWindow* found = script->Ask(window);
+    const ScriptedWindow* found = scriptedWindows->Ask(window);
     if (found) {
         *rect = found->rect;
     }
@@ -81,17 +81,17 @@ static BOOL WINAPI AnswerRect(HWND window, RECT* rect)
 static DWORD WINAPI AnswerPath(HMODULE module, wchar_t* buffer, DWORD size)
 {
     const auto processId = static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(module));
-    script->askedPaths.push_back(processId);
-    script->askedPathSizes.push_back(size);
-    const auto found = script->paths.find(processId);
-    return found == script->paths.end()
+    scriptedWindows->askedPaths.push_back(processId);
+    scriptedWindows->askedPathSizes.push_back(size);
+    const auto found = scriptedWindows->paths.find(processId);
+    return found == scriptedWindows->paths.end()
                ? 0
                : static_cast<DWORD>(Copy(found->second, buffer, static_cast<int>(size)));
 }
 
 static BOOL WINAPI AnswerEnumeration(WNDENUMPROC callback, LPARAM parameter)
 {
-    for (HWND window : std::vector<HWND>(script->order)) {
+    for (HWND window : std::vector<HWND>(scriptedWindows->order)) {
         if (!callback(window, parameter)) {
             return FALSE;
         }
@@ -101,8 +101,8 @@ static BOOL WINAPI AnswerEnumeration(WNDENUMPROC callback, LPARAM parameter)
 
 static LRESULT WINAPI TakeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    script->sent.push_back({window, message, wParam, lParam});
-    return script->answer;
+    scriptedWindows->sent.push_back({window, message, wParam, lParam});
+    return scriptedWindows->answer;
 }
 
 ScriptedWindows::ScriptedWindows()
@@ -113,12 +113,12 @@ ScriptedWindows::ScriptedWindows()
             {"GetWindowRect", AnswerRect},      {"GetModuleFileNameW", AnswerPath},
             {"EnumWindows", AnswerEnumeration}, {"SendMessageW", TakeMessage}}
 {
-    script = this;
+    scriptedWindows = this;
 }
 
 ScriptedWindows::~ScriptedWindows()
 {
-    script = nullptr;
+    scriptedWindows = nullptr;
 }
 
 HWND ScriptedWindows::Add(const ScriptedWindow& window)

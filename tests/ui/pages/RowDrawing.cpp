@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-static int Scaled(int pixels, int index)
+static int AtScreenDpi(int pixels, int index)
 {
     HDC screen = GetDC(nullptr);
     const int dpi = GetDeviceCaps(screen, index);
@@ -16,12 +16,12 @@ static int Scaled(int pixels, int index)
 
 int ScaledX(int pixels)
 {
-    return Scaled(pixels, LOGPIXELSX);
+    return AtScreenDpi(pixels, LOGPIXELSX);
 }
 
 int ScaledY(int pixels)
 {
-    return Scaled(pixels, LOGPIXELSY);
+    return AtScreenDpi(pixels, LOGPIXELSY);
 }
 
 int WidthOf(HFONT font, const std::wstring& text)

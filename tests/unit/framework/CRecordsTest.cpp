@@ -1,19 +1,9 @@
 // CRecords: the array that owns its records.
 #include "framework/CRecords.h"
 #include "tests/support/TestHeap.h"
+#include "tests/unit/framework/SCountedRecord.h"
 
 #include <gtest/gtest.h>
-
-struct SCountedRecord
-{
-    static inline int alive = 0;
-    SCountedRecord() { alive++; }
-    ~SCountedRecord() { alive--; }
-    SCountedRecord(const SCountedRecord&) = delete;
-    SCountedRecord& operator=(const SCountedRecord&) = delete;
-};
-
-QV_ARRAY_NAMES(SCountedRecord*, "struct SCountedRecord *");
 
 static void Fill(CArray<SCountedRecord*>& records, int count)
 {

@@ -1,15 +1,8 @@
 // What a command about a row acts on.
 #include "pages/RowCopy.h"
+#include "tests/unit/pages/SNamedRow.h"
 
 #include <gtest/gtest.h>
-
-struct SNamedRow
-{
-    int name;
-    int Identity() const { return name; }
-};
-
-QV_ARRAY_NAMES(SNamedRow*, "struct SNamedRow *");
 
 class RowCopyTest : public testing::Test
 {

@@ -2,6 +2,7 @@
 #include "tests/ui/pages/sysinfo/ShownSysInfo.h"
 
 #include "framework/Gdi.h"
+#include "tests/ui/pages/RowDrawing.h"
 
 void ShownSysInfo::OnPage(const std::function<void(ProgramApp&)>& test)
 {
@@ -51,20 +52,14 @@ int ShownSysInfo::MeasuredHeight(ProgramApp& app)
     return static_cast<int>(measure.itemHeight);
 }
 
-static int Scaled(int pixels, int index)
-{
-    const ScreenDC screen;
-    return (pixels * GetDeviceCaps(screen, index) + 48) / 96;
-}
-
 int ShownSysInfo::X(int pixels)
 {
-    return Scaled(pixels, LOGPIXELSX);
+    return ScaledX(pixels);
 }
 
 int ShownSysInfo::Y(int pixels)
 {
-    return Scaled(pixels, LOGPIXELSY);
+    return ScaledY(pixels);
 }
 
 int ShownSysInfo::LineHeight(HFONT font)

@@ -59,7 +59,7 @@ class TaskEnumerationTest : public testing::Test
     }
 };
 
-using Names = std::vector<std::wstring>;
+using Texts = std::vector<std::wstring>;
 
 TEST_F(TaskEnumerationTest, GoesOnForEveryWindowAndEndsForNone)
 {
@@ -75,7 +75,7 @@ TEST_F(TaskEnumerationTest, TasksKeepTheOrderOfTheWindows)
     Add(L"a");
     Add(L"b");
     Enumerate();
-    EXPECT_EQ(Names(), (::Names{L"c", L"a", L"b"}));
+    EXPECT_EQ(Names(), (Texts{L"c", L"a", L"b"}));
 }
 
 TEST_F(TaskEnumerationTest, WindowsThatAreNoApplicationsAreNotListed)
@@ -107,7 +107,7 @@ TEST_F(TaskEnumerationTest, TheWindowsOfOneTopOwnerAreOneTask)
     Add(L"Help", dialog);
     Add(L"Excel");
     Enumerate();
-    EXPECT_EQ(Names(), (::Names{L"Word", L"Excel"}));
+    EXPECT_EQ(Names(), (Texts{L"Word", L"Excel"}));
     EXPECT_EQ(tasks.At(0)->window, top);
 }
 
@@ -118,7 +118,7 @@ TEST_F(TaskEnumerationTest, AnOwnedWindowInFrontStandsForItsTopOwner)
     HWND popup = Add(L"Colours", middle);
     windows.order = {popup, middle, top};
     Enumerate();
-    EXPECT_EQ(Names(), ::Names{L"Word"});
+    EXPECT_EQ(Names(), Texts{L"Word"});
     EXPECT_EQ(tasks.At(0)->window, top);
 }
 
@@ -128,7 +128,7 @@ TEST_F(TaskEnumerationTest, AHiddenTopOwnerIsTheTaskUnderTheWindowsName)
     windows.windows[top].visible = false;
     Add(L"window", top);
     Enumerate();
-    EXPECT_EQ(Names(), ::Names{L"window"});
+    EXPECT_EQ(Names(), Texts{L"window"});
     EXPECT_EQ(tasks.At(0)->window, top);
 }
 
@@ -160,7 +160,7 @@ TEST_F(TaskEnumerationTest, TheSmartphonesUntitledHomeScreenIsHome)
     icons.indexes[L"\\Windows\\home.exe"] = 2;
     windows.windows[Add(L"")].className = L"Explore";
     Enumerate();
-    EXPECT_EQ(Names(), ::Names{L"Home"});
+    EXPECT_EQ(Names(), Texts{L"Home"});
     EXPECT_EQ(tasks.At(0)->iconIndex, 8);
 }
 
@@ -172,7 +172,7 @@ TEST_F(TaskEnumerationTest, TheHomeScreensClassIsThatOfTheTopOwner)
     windows.windows[home].visible = false;
     HWND other = Add(L"", home);
     EXPECT_TRUE(EnumTasksProc(other, reinterpret_cast<LPARAM>(&tasks)));
-    EXPECT_EQ(Names(), ::Names{L"Home"});
+    EXPECT_EQ(Names(), Texts{L"Home"});
     EXPECT_EQ(tasks.At(0)->window, home);
 }
 
@@ -342,7 +342,7 @@ TEST_F(TaskEnumerationTest, TheProgramsOwnWindowIsListed)
 {
     host.SetMainWindow(Add(L"Quorvane"));
     Enumerate();
-    EXPECT_EQ(Names(), ::Names{L"Quorvane"});
+    EXPECT_EQ(Names(), Texts{L"Quorvane"});
 }
 
 TEST_F(TaskEnumerationTest, WindowsThatVanishAtAnyMomentDoNoHarm)

@@ -1,6 +1,7 @@
 // The start-up on a device, and the shell's functions that it looks up. The build gives them other names here
 // than the PC's: Device and the name (DeviceParts.cmake).
 #include "tests/unit/platform/device/DeviceLibraries.h"
+#include "tests/unit/platform/device/DeviceProgram.h"
 
 #include "LateExports.h"
 
@@ -18,14 +19,6 @@ wchar_t* WINAPI DeviceGetCommandLineW();
 }
 
 using Events = std::vector<std::string>;
-
-static std::function<int()> program;
-
-int DeviceProgramMain(HINSTANCE, HINSTANCE, const wchar_t*, int)
-{
-    DeviceLibraries::current->Note("the program begins");
-    return program ? program() : 0;
-}
 
 struct ProcessEnded
 {
@@ -74,7 +67,7 @@ class DeviceStartTest : public DeviceLibraries
   protected:
     SHACTIVATEINFO info = {};
 
-    ~DeviceStartTest() override { program = nullptr; }
+    ~DeviceStartTest() override { deviceProgram = nullptr; }
 
     void PutAll()
     {
@@ -119,7 +112,7 @@ TEST_F(DeviceStartTest, EveryLateFunctionIsLookedUpBeforeTheProgramBegins)
 TEST_F(DeviceStartTest, TheProgramsCallsReachWhatWasFound)
 {
     PutAll();
-    program = [this] {
+    deviceProgram = [this] {
         events.clear();
         EXPECT_EQ(DeviceSHHandleWMSettingChange(nullptr, 1, 0, &info), 5);
         EXPECT_EQ(DeviceSHHandleWMActivate(nullptr, 2, 0, &info, 3), 6);
@@ -133,7 +126,7 @@ TEST_F(DeviceStartTest, TheProgramsCallsReachWhatWasFound)
 TEST_F(DeviceStartTest, WhatIsMissingIsToldBeforeTheProgramBeginsAndDoesNothingInIt)
 {
     missingLibraries = {"commctrl.dll"};
-    program = [this] {
+    deviceProgram = [this] {
         EXPECT_EQ(DeviceSHHandleWMSettingChange(nullptr, 1, 0, &info), FALSE);
         EXPECT_EQ(DeviceSHHandleWMActivate(nullptr, 1, 0, &info, 0), FALSE);
         DeviceSHSendBackToFocusWindow(WM_KEYDOWN, 0, 0);
@@ -175,7 +168,7 @@ TEST_F(DeviceStartTest, TheProgramHasItsCommandLineAndItsResultEndsTheProcess)
 {
     PutAll();
     std::wstring commandLine;
-    program = [&] {
+    deviceProgram = [&] {
         commandLine = DeviceGetCommandLineW();
         return 7;
     };

@@ -3,6 +3,7 @@
 #include "tools/runner/Process.h"
 #include "tools/runner/RunLog.h"
 #include "tools/runner/bridges/ImportBinding.h"
+#include "tools/runner/bridges/ShownProcesses.h"
 
 #include <windows.h>
 
@@ -58,6 +59,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int)
     std::set_terminate(TellAbort);
     const std::wstring without = Variable(L"QV_RUNNER_WITHOUT");
     runner::DoWithout(std::string(without.begin(), without.end()));
+    runner::ShowOnlyProcess(Variable(L"QV_RUNNER_ONLY"));
     try {
         // The substitute's: without the program's name, as a device hands it over.
         runner::RunProcess(log, name + L".arm", name + L".elf", GetCommandLineW(),

@@ -3,6 +3,7 @@
 
 #include "tools/common/InputFile.h"
 #include "tools/common/Refusal.h"
+#include "tools/runner/Probe.h"
 #include "tools/runner/RunLog.h"
 #include "tools/runner/bridges/Host.h"
 #include "tools/runner/bridges/ImportBinding.h"
@@ -60,6 +61,9 @@ void RunProcess(RunLog& log, const std::wstring& imagePath, const std::wstring& 
     }
     guest.machine.Load(image, 1);
     BindImports(guest, image);
+    if (log.IsWritten()) {
+        guest.watcher = new Probe(guest, log, image);
+    }
     const Address text = PlaceCommandLine(guest.machine, commandLine);
     guest.Enter(image.Entry(), image.Base(), 0, text, SW_SHOWNORMAL);
     guest.Misuse("the entry returned");

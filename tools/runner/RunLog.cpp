@@ -48,11 +48,23 @@ void RunLog::TellFault(Word code, std::uint64_t place, std::uint64_t address)
     Tell(text + (guest ? " [while serving " + guest->CurrentImport() + "]" : std::string()));
 }
 
+std::string RunLog::Objects() const
+{
+    const GuestHeap& heap = guest->machine.heap;
+    std::string text = "blocks " + std::to_string(heap.LiveBlocks()) + " bytes " +
+                       std::to_string(heap.LiveBytes()) + " open";
+    for (const auto& [kind, count] : guest->cookies.LiveByKind()) {
+        text += std::string(", ") + NameOf(kind) + " " + std::to_string(count);
+    }
+    return text;
+}
+
 void RunLog::WriteEnd(Word exitCode)
 {
     const GuestHeap& heap = guest->machine.heap;
-    Write("end: code " + std::to_string(exitCode) + ", " + std::to_string(guest->machine.processor.Count()) +
-          " instructions, " + std::to_string(guest->counts.ImportCalls()) + " calls of imports, stack " +
+    Write("end: code " + std::to_string(exitCode) + ", instructions " +
+          std::to_string(guest->machine.processor.Count()) + " imports " +
+          std::to_string(guest->counts.ImportCalls()) + ", stack " +
           std::to_string(guest->machine.layout.stackTop - guest->machine.memory.LowestStackPointer()) +
           " bytes");
     Write("heap: " + std::to_string(heap.LiveBlocks()) + " blocks of " + std::to_string(heap.LiveBytes()) +

@@ -20,6 +20,7 @@ class RunLog : public Journal, public FindingSink
 
     // Whose symbols name the places.
     void SetGuest(const Guest& itsGuest) { guest = &itsGuest; }
+    bool IsWritten() const { return file != nullptr; }
     void Write(const std::string& line) override;
     // To the standard error output too.
     void Tell(const std::string& line);
@@ -27,6 +28,8 @@ class RunLog : public Journal, public FindingSink
     void TellFault(Word code, std::uint64_t place, std::uint64_t address);
     // With what is left: counts, blocks, depth of the stack.
     void WriteEnd(Word exitCode) override;
+    // What the guest has not given back.
+    std::string Objects() const;
 
   private:
     void Take(const Finding& finding) override;

@@ -51,6 +51,11 @@ TEST(CountsTest, ProfileTellsEachInstruction)
     const auto functions = counts.Functions(Symbols());
     ASSERT_EQ(functions.size(), 1u);
     EXPECT_EQ(functions[0].second, 7u);
+
+    const std::vector<std::uint64_t> before = guest.machine.processor.ProfileCounts();
+    EXPECT_TRUE(counts.Functions(Symbols(), before).empty());
+    guest.Run({0xE3A00001, 0xE2500001, 0x1AFFFFFD, 0xE3A01001, 0xE3A02001});
+    EXPECT_EQ(counts.Functions(Symbols(), before)[0].second, 3u) << "without what was before";
 }
 
 } // namespace runner

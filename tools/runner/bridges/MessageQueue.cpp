@@ -54,6 +54,9 @@ static Word DoGetMessage(Call& call)
 {
     MSG message = {};
     const auto record = call.RecordAt<guest::QueuedMessage>(0);
+    if (call.guest.watcher) {
+        call.guest.watcher->BeforeWait();
+    }
     const BOOL result = GetMessageW(&message, HandleAt<HWND>(call, 1), call.Argument(2), call.Argument(3));
     if (result >= 0) {
         GiveQueued(record, message);

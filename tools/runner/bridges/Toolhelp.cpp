@@ -1,6 +1,7 @@
 // Snapshots of processes and modules.
 #include "tools/runner/bridges/Bridges.h"
 #include "tools/runner/bridges/OwnHeap.h"
+#include "tools/runner/bridges/ShownProcesses.h"
 
 namespace runner {
 
@@ -24,6 +25,18 @@ static_assert(sizeof(ModuleEntry) == 1076);
 
 } // namespace
 
+static std::wstring shownProcess;
+
+void ShowOnlyProcess(const std::wstring& name)
+{
+    shownProcess = name;
+}
+
+static bool IsShown(const PROCESSENTRY32& process)
+{
+    return shownProcess.empty() || shownProcess == process.szExeFile;
+}
+
 using NextProcess = BOOL(WINAPI*)(HANDLE, PROCESSENTRY32*);
 using NextModule = BOOL(WINAPI*)(HANDLE, MODULEENTRY32*);
 
@@ -40,7 +53,11 @@ static Word WalkProcesses(Call& call, NextProcess next)
     NeedSize(call, record.Get(&PROCESSENTRY32::dwSize), sizeof(PROCESSENTRY32));
     PROCESSENTRY32 entry = {};
     entry.dwSize = sizeof(entry);
-    const BOOL result = next(ProcessSnapshotArgument(call), &entry);
+    const HANDLE snapshot = ProcessSnapshotArgument(call);
+    BOOL result = next(snapshot, &entry);
+    while (result && !IsShown(entry)) {
+        result = Process32Next(snapshot, &entry);
+    }
     if (result) {
         record.SetAll(entry);
     }

@@ -25,6 +25,14 @@ class Journal
     virtual void WriteEnd(Word exitCode) = 0;
 };
 
+// Told before the guest waits for its next message.
+class WaitWatcher
+{
+  public:
+    virtual ~WaitWatcher() = default;
+    virtual void BeforeWait() = 0;
+};
+
 class Guest
 {
   public:
@@ -57,6 +65,7 @@ class Guest
     std::uint64_t hostResources = 0; // the module that has the guest's resources on the host
     Journal* journal = nullptr;      // is told of the end
     Journal* trace = nullptr;        // null: calls are not told
+    WaitWatcher* watcher = nullptr;  // null: nobody wants to know
 
     explicit Guest(FindingSink& findings, const Layout& layout = {});
     Guest(const Guest&) = delete;

@@ -28,15 +28,16 @@ void Counts::AddImport(const std::string& name)
     imports[name]++;
 }
 
-std::vector<std::pair<std::string, std::uint64_t>> Counts::Functions(const Symbols& symbols) const
+std::vector<std::pair<std::string, std::uint64_t>>
+Counts::Functions(const Symbols& symbols, const std::vector<std::uint64_t>& before) const
 {
     std::map<std::string, std::uint64_t> sums;
-    Address address = processor.ProfileBegin();
-    for (const std::uint64_t times : processor.ProfileCounts()) {
+    const std::vector<std::uint64_t>& now = processor.ProfileCounts();
+    for (std::size_t i = 0; i < now.size(); i++) {
+        const std::uint64_t times = now[i] - (i < before.size() ? before[i] : 0);
         if (times != 0) {
-            sums[symbols.FunctionOf(address)] += times;
+            sums[symbols.FunctionOf(processor.ProfileBegin() + static_cast<Word>(i * sizeof(Word)))] += times;
         }
-        address += sizeof(Word);
     }
     std::vector<std::pair<std::string, std::uint64_t>> functions(sums.begin(), sums.end());
     std::ranges::stable_sort(functions, std::ranges::greater(),

@@ -50,8 +50,10 @@ class Counts
     std::uint64_t ImportCalls() const { return importCalls; }
     const std::map<std::string, Sum>& Sections() const { return sections; }
     const std::map<std::string, std::uint64_t>& Imports() const { return imports; }
-    // Instructions by function, the most first. The processor's profile has to be on.
-    std::vector<std::pair<std::string, std::uint64_t>> Functions(const Symbols& symbols) const;
+    // Instructions by function, the most first. The processor's profile has to be on. before: an earlier
+    // state of it, whose instructions do not count.
+    std::vector<std::pair<std::string, std::uint64_t>>
+    Functions(const Symbols& symbols, const std::vector<std::uint64_t>& before = {}) const;
 };
 
 } // namespace runner

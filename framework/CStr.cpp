@@ -9,6 +9,9 @@ static const uint32_t wholeText = UINT32_MAX; // as a count of characters: up to
 // The characters before the terminator, at most n; what lies behind them is not read.
 static uint32_t LengthWithin(const wchar_t* text, uint32_t n)
 {
+    if (n == wholeText) {
+        return static_cast<uint32_t>(wcslen(text)); // the platform's is quicker than a loop of ours
+    }
     uint32_t length = 0;
     while (length < n && text[length]) {
         length++;

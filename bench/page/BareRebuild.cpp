@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-static constexpr int textLength = 260;
+static constexpr int nameLength = 260;
 static constexpr size_t mostTasks = 1000;
 
 BareRebuild::BareRebuild(HWND taskList) : list(taskList)
@@ -36,9 +36,9 @@ BOOL CALLBACK BareRebuild::AskWindow(HWND window, LPARAM self)
         top = owner;
     }
     const bool topVisible = IsWindowVisible(top) != FALSE;
-    wchar_t title[textLength];
-    if (!GetWindowTextW(topVisible ? top : window, title, textLength) &&
-        !GetWindowTextW(topVisible ? window : top, title, textLength)) {
+    wchar_t title[nameLength];
+    if (!GetWindowTextW(topVisible ? top : window, title, nameLength) &&
+        !GetWindowTextW(topVisible ? window : top, title, nameLength)) {
         return TRUE;
     }
     if (std::find(tasks.begin(), tasks.end(), top) != tasks.end()) {
@@ -53,8 +53,8 @@ void BareRebuild::AskTask(HWND window)
 {
     DWORD processId = 0;
     GetWindowThreadProcessId(window, &processId);
-    wchar_t className[textLength];
-    GetClassNameW(window, className, textLength);
+    wchar_t className[nameLength];
+    GetClassNameW(window, className, nameLength);
     if (std::find(processes.begin(), processes.end(), processId) == processes.end()) {
         AskBareProcess(processId);
         processes.push_back(processId);

@@ -10,7 +10,7 @@ namespace handheld {
 
 static constexpr wchar_t blanks[] = L" \t";
 
-static bool Exists(const std::wstring& path)
+static bool IsFile(const std::wstring& path)
 {
     const DWORD attributes = GetFileAttributesW(DevicePath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
@@ -50,11 +50,11 @@ static size_t EndOfFile(const std::wstring& command)
 {
     for (size_t end = command.find_first_of(blanks); end != std::wstring::npos;
          end = command.find_first_of(blanks, end + 1)) {
-        if (Exists(command.substr(0, end))) {
+        if (IsFile(command.substr(0, end))) {
             return end;
         }
     }
-    return Exists(command) ? command.size() : command.find_first_of(blanks);
+    return IsFile(command) ? command.size() : command.find_first_of(blanks);
 }
 
 static std::wstring Trimmed(const std::wstring& text)
@@ -64,7 +64,7 @@ static std::wstring Trimmed(const std::wstring& text)
                                        : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
-ButtonStart SplitCommand(const std::wstring& command)
+ButtonStart SplitButtonCommand(const std::wstring& command)
 {
     const std::wstring line = Trimmed(command);
     if (line.empty()) {

@@ -20,6 +20,6 @@ struct ButtonStart
     std::wstring arguments;
 };
 
-ButtonStart SplitCommand(const std::wstring& command);
+ButtonStart SplitButtonCommand(const std::wstring& command);
 
 } // namespace handheld

@@ -34,7 +34,7 @@ static constexpr FirstShortcut firstShortcuts[] = {
     {L"Programs\\Tools\\", L"Version", L"winver.exe", ShortcutForm::Link},
 };
 
-static bool Exists(const std::wstring& path)
+static bool IsThere(const std::wstring& path)
 {
     return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
@@ -50,7 +50,7 @@ static std::wstring FindProgram(const std::wstring& ownFolder, const wchar_t* pr
         std::wstring(windows).substr(0, 2) + L"\\Program Files\\Windows NT\\Accessories";
     for (const std::wstring& folder : {ownFolder, std::wstring(windows), std::wstring(system), accessories}) {
         std::wstring path = folder + L'\\' + program;
-        if (Exists(path)) {
+        if (IsThere(path)) {
             return path;
         }
     }
@@ -89,7 +89,7 @@ void FillStartMenuOnce(const std::wstring& menu, const std::wstring& ownFolder, 
         const std::wstring folder = menu + L'\\' + first.folder;
         const std::wstring file = folder + first.name + L".lnk";
         const std::wstring program = FindProgram(ownFolder, first.program);
-        if (!program.empty() && !Exists(file) && MakeFolder(folder.substr(0, folder.size() - 1))) {
+        if (!program.empty() && !IsThere(file) && MakeFolder(folder.substr(0, folder.size() - 1))) {
             WriteShortcut(file, program, first.form);
         }
     }

@@ -3,15 +3,15 @@
 
 namespace handheld {
 
-static constexpr std::wstring_view blanks = L" \t\r\n\xFEFF";
+static constexpr std::wstring_view blankCharacters = L" \t\r\n\xFEFF";
 
 std::wstring_view Trimmed(std::wstring_view text)
 {
-    const size_t first = text.find_first_not_of(blanks);
+    const size_t first = text.find_first_not_of(blankCharacters);
     if (first == std::wstring_view::npos) {
         return {};
     }
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    return text.substr(first, text.find_last_not_of(blankCharacters) - first + 1);
 }
 
 std::wstring Lower(std::wstring_view text)
@@ -29,7 +29,7 @@ std::wstring_view WithoutComment(std::wstring_view line)
 {
     for (size_t i = 0; i < line.size(); ++i) {
         if ((line[i] == L';' || line[i] == L'#') &&
-            (i == 0 || blanks.find(line[i - 1]) != std::wstring_view::npos)) {
+            (i == 0 || blankCharacters.find(line[i - 1]) != std::wstring_view::npos)) {
             return line.substr(0, i);
         }
     }

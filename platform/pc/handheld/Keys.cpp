@@ -22,7 +22,7 @@ static std::vector<UINT> KeysOfTheShell()
 
 static void StartByButton(int button)
 {
-    const handheld::ButtonStart start = handheld::SplitCommand(handheld::ButtonCommand(button));
+    const handheld::ButtonStart start = handheld::SplitButtonCommand(handheld::ButtonCommand(button));
     HANDLE process = nullptr;
     if (!start.file.empty() && handheld::StartFile({start.file, start.arguments}, process) && process) {
         AllowSetForegroundWindow(GetProcessId(process));

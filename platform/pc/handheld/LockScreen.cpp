@@ -12,8 +12,8 @@ static constexpr UINT_PTR frontTimer = 1;
 static constexpr UINT frontInterval = 250; // ms; programs go on, and may come to the front
 static constexpr UINT_PTR questionTimer = 2;
 static constexpr UINT questionTime = 8000;
-static constexpr COLORREF ground = RGB(24, 34, 54);
-static constexpr COLORREF white = RGB(255, 255, 255);
+static constexpr COLORREF night = RGB(24, 34, 54);
+static constexpr COLORREF letters = RGB(255, 255, 255);
 
 static bool IsSmartphone()
 {
@@ -123,14 +123,14 @@ void LockScreen::CoverScreen() const
 void LockScreen::Paint(handheld::Surface& surface)
 {
     const RECT all = surface.Client();
-    surface.Fill(all, ground);
+    surface.Fill(all, night);
     const bool asks = lock.Now() == KeyLock::State::Confirming;
     RECT text = all;
     text.bottom = Button().top;
-    surface.Text(L"The keys are locked", text, large, white, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    surface.Text(L"The keys are locked", text, large, letters, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     const RECT button = Button();
     if (asks && IsSmartphone()) {
-        surface.Text(L"Now press *", button, bold, white, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        surface.Text(L"Now press *", button, bold, letters, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     } else if (asks) {
         handheld::PaintPressedKey(surface, button);
         handheld::PaintKeyText(surface, button, L"Unlock: tap or Enter", bold, true);

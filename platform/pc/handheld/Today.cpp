@@ -10,7 +10,7 @@ using handheld::Scaled;
 
 static constexpr UINT_PTR dateTimer = 1;
 static constexpr UINT dateInterval = 20000; // ms
-static constexpr int lineHeight = 36;       // at 96 dpi
+static constexpr int rowHeight = 36;        // at 96 dpi
 static constexpr size_t sizeLine = 1;       // which of the lines tells the screen's size
 static constexpr wchar_t programFile[] = L"Quorvane.exe";
 
@@ -118,14 +118,14 @@ void Today::Paint(handheld::Surface& surface)
     int top = Scaled(34);
     for (const Line& line : lines) {
         PaintLine(surface, line, top);
-        top += Scaled(lineHeight);
+        top += Scaled(rowHeight);
     }
     PaintSoftKeys(surface);
 }
 
 void Today::PaintLine(handheld::Surface& surface, const Line& line, int top) const
 {
-    const int bottom = top + Scaled(lineHeight);
+    const int bottom = top + Scaled(rowHeight);
     const int right = surface.Client().right;
     const int left = Scaled(8);
     surface.Fill({left, top + Scaled(12), left + Scaled(12), top + Scaled(24)}, line.badge);

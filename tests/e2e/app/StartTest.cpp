@@ -14,14 +14,14 @@ static bool operator==(const RECT& one, const RECT& other)
     return EqualRect(&one, &other) != FALSE;
 }
 
-static std::string Text(const RECT& rect)
+static std::string RectText(const RECT& rect)
 {
     return testing::PrintToString(std::vector<LONG>{rect.left, rect.top, rect.right, rect.bottom});
 }
 
 static void ExpectRect(const RECT& expected, const RECT& actual)
 {
-    EXPECT_TRUE(expected == actual) << Text(expected) << " expected, it is " << Text(actual);
+    EXPECT_TRUE(expected == actual) << RectText(expected) << " expected, it is " << RectText(actual);
 }
 
 class StartTest : public ShellSession

@@ -8,7 +8,7 @@
 
 using handheld::ButtonCommand;
 using handheld::ButtonStart;
-using handheld::SplitCommand;
+using handheld::SplitButtonCommand;
 
 class ButtonCommandTest : public testing::Test
 {
@@ -24,7 +24,7 @@ class ButtonCommandTest : public testing::Test
     static void ExpectSplit(const std::wstring& command, const std::wstring& file,
                             const std::wstring& arguments)
     {
-        const ButtonStart start = SplitCommand(command);
+        const ButtonStart start = SplitButtonCommand(command);
         EXPECT_EQ(start.file, file);
         EXPECT_EQ(start.arguments, arguments);
     }

@@ -41,7 +41,7 @@ TEST_F(FirstButtonsTest, TheirCommandsStartProgramsThatAreThere)
     for (const std::wstring& button : buttons) {
         const std::wstring command = machine.Text(button, L"Default");
         EXPECT_EQ(machine.Text(button, L"ResetCmd"), command);
-        std::wstring file = handheld::DevicePath(handheld::SplitCommand(command).file);
+        std::wstring file = handheld::DevicePath(handheld::SplitButtonCommand(command).file);
         EXPECT_NE(GetFileAttributesW(file.c_str()), INVALID_FILE_ATTRIBUTES) << testing::PrintToString(file);
         for (handheld::Shortcut shortcut; handheld::ReadShortcut(file, shortcut);) {
             file = handheld::DevicePath(shortcut.path);

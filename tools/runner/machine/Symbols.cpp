@@ -10,7 +10,7 @@
 
 namespace runner {
 
-static constexpr std::uint64_t sectionRowSize = 40;
+static constexpr std::uint64_t sectionHeaderSize = 40;
 static constexpr std::uint64_t symbolSize = 16;
 static constexpr Word symbolTable = 2;
 static constexpr unsigned functionType = 2;
@@ -40,7 +40,7 @@ Symbols::Symbols(std::span<const std::uint8_t> elf)
         throw Refusal("is no ELF file of 32 bits");
     }
     const auto section = [&file](Word index) {
-        return file.Part(file.U32Little(32) + sectionRowSize * index, sectionRowSize);
+        return file.Part(file.U32Little(32) + sectionHeaderSize * index, sectionHeaderSize);
     };
     for (Word index = 0; index < file.U16Little(48); index++) {
         const ByteView row = section(index);

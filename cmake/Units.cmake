@@ -32,27 +32,15 @@ function(qv_unit_text variable)
     set(${variable} "${all_includes}\n${text}" PARENT_SCOPE)
 endfunction()
 
-# qv_unit_members(<variable> <unit>): the files that such a source stands for; none if it is another one.
-function(qv_unit_members variable unit)
-    file(STRINGS ${unit} members REGEX "^#include \"/")
-    list(TRANSFORM members REPLACE "^#include \"(.*)\"$" "\\1")
-    set(${variable} "${members}" PARENT_SCOPE)
-endfunction()
-
 # qv_make_units(<variable> <name> PER <count> SOURCES ...): what to compile in place of the sources, PER of them together.
 function(qv_make_units variable name)
     cmake_parse_arguments(PARSE_ARGV 2 ARG "" "PER" "SOURCES")
     set(sources "")
-    set(others "")
     foreach(source IN LISTS ARG_SOURCES)
         get_filename_component(source ${source} ABSOLUTE)
-        if(source MATCHES "\\.cpp$")
-            list(APPEND sources ${source})
-            # The unit repeats what a test includes.
-            set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
-        else()
-            list(APPEND others ${source})
-        endif()
+        list(APPEND sources ${source})
+        # The unit repeats what a test includes.
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
     endforeach()
     set(units "")
     set(number 0)
@@ -65,5 +53,5 @@ function(qv_make_units variable name)
         file(CONFIGURE OUTPUT ${unit} CONTENT "${text}" @ONLY) # touched only when it changes
         list(APPEND units ${unit})
     endwhile()
-    set(${variable} ${units} ${others} PARENT_SCOPE)
+    set(${variable} ${units} PARENT_SCOPE)
 endfunction()

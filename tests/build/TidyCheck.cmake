@@ -5,8 +5,7 @@
 # Without it the headers of the file PRECOMPILED are read once for all.
 #
 #   FOLDERS       from ROOT on, with blanks between
-#   DATABASE      compile_commands.json, in which a unit (cmake/Units.cmake) stands for the files that it includes; its
-#                 compiler's own warnings are left out, clang has others
+#   DATABASE      compile_commands.json; its compiler's own warnings are left out, clang has others
 #   FLAGS         what clang needs besides, to find the compiler's headers and to know the processor
 #   HOST_FOLDERS  those whose programs run on the building machine; the database does not know them
 #   HOST_FLAGS    with what these are compiled
@@ -106,27 +105,20 @@ set(command "")
 foreach(line IN LISTS lines)
     if(line MATCHES "^  \"command\": \"(.*)\",$")
         string(REPLACE "\\\"" "\"" command "${CMAKE_MATCH_1}")
-    elseif(line MATCHES "^  \"file\": \"(.*)\",?$")
-        set(files ${CMAKE_MATCH_1})
+    elseif(line MATCHES "^  \"file\": \"(.*)\",?$" AND CMAKE_MATCH_1 IN_LIST sources AND NOT CMAKE_MATCH_1 IN_LIST known)
+        set(file ${CMAKE_MATCH_1})
+        list(APPEND known ${file})
         # GCC's precompiled header means nothing to clang, but would be taken when the command line names it. Together the
         # tests need what it holds; any other file includes what it needs.
         set(prelude "")
         if(TOGETHER AND command MATCHES " -include ([^ ]*/cmake_pch\\.hxx)")
             set(prelude "#include \"${CMAKE_MATCH_1}\"\n")
         endif()
-        if(files MATCHES "/units/[^/]*$")
-            qv_unit_members(files ${files})
+        if(NOT command MATCHES "-g[+][+][^ ]* (.*) -o [^ ]* -c ")
+            message(FATAL_ERROR "the command that compiles ${file} has another form: ${command}")
         endif()
-        foreach(file IN LISTS files)
-            if(file IN_LIST sources AND NOT file IN_LIST known)
-                if(NOT command MATCHES "-g[+][+][^ ]* (.*) -o [^ ]* -c ")
-                    message(FATAL_ERROR "the command that compiles ${file} has another form: ${command}")
-                endif()
-                string(REGEX REPLACE " -include [^ ]*/cmake_pch\\.hxx| -W[^ ]*" "" flags " ${CMAKE_MATCH_1}")
-                list(APPEND known ${file})
-                qv_sort_in(${file} "${FLAGS} ${flags}" "${prelude}")
-            endif()
-        endforeach()
+        string(REGEX REPLACE " -include [^ ]*/cmake_pch\\.hxx| -W[^ ]*" "" flags " ${CMAKE_MATCH_1}")
+        qv_sort_in(${file} "${FLAGS} ${flags}" "${prelude}")
     endif()
 endforeach()
 foreach(file IN LISTS sources)

@@ -16,6 +16,9 @@
 //    the time when that thread gets the front again. (Wine's regedit sets its focus while it loses the
 //    front.)
 //  - A window that goes behind all others (HWND_BOTTOM) stays where it is on the screen.
+//  - What the driver asks for on one program's connection may wait there until the program reads its next
+//    message. When another program comes to the front before that, the X server raises the two in the wrong
+//    order, and the window in front is covered for good.
 #define _GNU_SOURCE
 #include "own_requests.h"
 #include "wine_windows.h"
@@ -89,10 +92,12 @@ int XConfigureWindow(Display* display, Window window, unsigned int mask, XWindow
     }
     EndOwnRequests(display);
     XFree(siblings);
+    XSync(display, False);
     return result;
 }
 
-// The X driver raises a window directly before it gives it the focus.
+// The X driver raises a window directly before it gives it the focus. The raise has been carried out: a
+// window that comes to the front from now on is raised after it.
 int XSetInputFocus(Display* display, Window focus, int revertTo, Time time)
 {
     static SetInputFocusFunction original;
@@ -100,17 +105,20 @@ int XSetInputFocus(Display* display, Window focus, int revertTo, Time time)
         original = (SetInputFocusFunction)dlsym(RTLD_NEXT, "XSetInputFocus");
     }
     (void)time;
+    int result = 1;
     if (!AnotherThreadIsInFront()) {
-        return original(display, focus, revertTo, CurrentTime);
+        result = original(display, focus, revertTo, CurrentTime);
+    } else {
+        if (focus == raised && aboveRaised != None) {
+            XWindowChanges changes = {.sibling = aboveRaised, .stack_mode = Below};
+            BeginOwnRequests(display);
+            Configure(display, focus, CWSibling | CWStackMode, &changes);
+            EndOwnRequests(display);
+        }
+        raised = None;
     }
-    if (focus == raised && aboveRaised != None) {
-        XWindowChanges changes = {.sibling = aboveRaised, .stack_mode = Below};
-        BeginOwnRequests(display);
-        Configure(display, focus, CWSibling | CWStackMode, &changes);
-        EndOwnRequests(display);
-    }
-    raised = None;
-    return 1;
+    XSync(display, False);
+    return result;
 }
 
 // How the driver places and orders a window; it knows only one order, the front.
@@ -128,5 +136,6 @@ Status XReconfigureWMWindow(Display* display, Window window, int screen, unsigne
         Configure(display, window, CWStackMode, &lower);
         EndOwnRequests(display);
     }
+    XSync(display, False);
     return result;
 }

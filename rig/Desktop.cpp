@@ -156,12 +156,25 @@ HWND FocusOf(HWND window)
     return info.hwndFocus;
 }
 
+// A program that gets the front again while it is still losing it keeps its focus, and Wine's X driver, which
+// acts on a change of the focus only, does not show it before the others. A program that hangs loses nothing.
+static void AwaitLossOfFront(HWND window)
+{
+    const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+    WaitFor(
+        [=] {
+            return GetWindowThreadProcessId(GetForegroundWindow(), nullptr) == thread || !FocusOf(window);
+        },
+        std::chrono::milliseconds(answerTime));
+}
+
 bool BringToFront(HWND window)
 {
     return WaitFor([=] {
         if (GetForegroundWindow() == window) {
             return true;
         }
+        AwaitLossOfFront(window);
         SetForegroundWindow(window);
         return GetForegroundWindow() == window;
     });

@@ -65,6 +65,30 @@ TEST(RigTest, TheTopBarIsNotMeantByATitle)
     EXPECT_EQ(window, FindTopWindow({.title = L"Shown twice"}));
 }
 
+// It still believes to have the front when it is to get it again.
+TEST(RigTest, AWindowThatLostTheFrontWhileBusyIsShownAgain)
+{
+    constexpr RECT area = {20, 60, 180, 160};
+    const Actor busy;
+    const Actor other;
+    const HWND window = busy.Make({.place = area, .colour = orange});
+    const HWND pause =
+        busy.Make({.place = {0, 180, 20, 200}, .closing = actor::Closing::Delay, .delay = 500});
+    const HWND before = other.Make({.place = area});
+    const auto shows = [&](COLORREF colour) {
+        return WaitFor([=] { return Picture::OfScreen(area).Count(colour) == 160 * 100; });
+    };
+    ASSERT_TRUE(window && pause && before);
+    ASSERT_TRUE(Raise(window));
+    ASSERT_TRUE(shows(orange));
+    ASSERT_TRUE(Hang(pause));
+    SetForegroundWindow(before);
+    ASSERT_TRUE(shows(RGB(0, 128, 0)));
+    ASSERT_FALSE(Answers(window, milliseconds(50))) << "it was to be busy all the time";
+    EXPECT_TRUE(BringToFront(window));
+    EXPECT_TRUE(shows(orange));
+}
+
 TEST(RigTest, ActorTakesAClassNameOfTheLongestLength)
 {
     const Actor actor;

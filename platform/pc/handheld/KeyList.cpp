@@ -53,8 +53,9 @@ void KeyList::Open()
         return;
     }
     previous = GetForegroundWindow();
+    // It takes the front once: a second time it might take it back from a window that has come since.
     SetWindowPos(Window(), HWND_TOP, place.left, place.top, place.right - place.left,
-                 place.bottom - place.top, SWP_SHOWWINDOW);
+                 place.bottom - place.top, SWP_SHOWWINDOW | SWP_NOACTIVATE);
     SetForegroundWindow(Window());
 }
 

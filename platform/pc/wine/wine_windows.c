@@ -89,21 +89,32 @@ static uint32_t ListWindows(const Core* core, uint32_t thread, void** windows)
                : 0;
 }
 
-int BelongsToFront(Window window)
+static void* RootOwner(const Core* core, void* window)
 {
     enum
     {
-        RootOwner = 3
+        RootOwnerType = 3
     };
+    return core->getAncestor(window, RootOwnerType);
+}
+
+void* RootOwnerOf(Window window)
+{
     const Core* core = LoadCore();
-    void* front = core ? core->getForegroundWindow() : NULL;
     void* windows[Room];
-    for (uint32_t i = front ? ListWindows(core, ThisThread(), windows) : 0; i > 0; i--) {
+    for (uint32_t i = core ? ListWindows(core, ThisThread(), windows) : 0; i > 0; i--) {
         if (WholeWindow(core, windows[i - 1]) == window) {
-            return core->getAncestor(windows[i - 1], RootOwner) == core->getAncestor(front, RootOwner);
+            return RootOwner(core, windows[i - 1]);
         }
     }
-    return 0;
+    return NULL;
+}
+
+int BelongsToFront(Window window)
+{
+    const Core* core = LoadCore();
+    void* front = core ? core->getForegroundWindow() : NULL;
+    return front && RootOwnerOf(window) == RootOwner(core, front);
 }
 
 int IsLowestWindow(Window window)

@@ -10,8 +10,11 @@
 // Whether another thread than this one has the window in front.
 int AnotherThreadIsInFront(void);
 
-// Whether it is the X window of a window of this thread that is in front, or that has the same owner in the
-// end as the one in front: a dialog, its owner and their pop-ups.
+// The owner in the end, itself when it has none, of the window of this thread whose X window this is; null
+// when there is no such window. A dialog, its owner and their pop-ups have it in common.
+void* RootOwnerOf(Window window);
+
+// Whether that owner is the same as the one of the window in front.
 int BelongsToFront(Window window);
 
 // Whether no other window on the screen is behind this one in Wine's order.

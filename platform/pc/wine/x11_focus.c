@@ -29,8 +29,7 @@ typedef int (*SetInputFocusFunction)(Display*, Window, int, Time);
 typedef int (*ConfigureWindowFunction)(Display*, Window, unsigned int, XWindowChanges*);
 typedef Status (*ReconfigureFunction)(Display*, Window, int, unsigned int, XWindowChanges*);
 
-// The X server hands each connection its own range of identifiers; Wine opens one connection a thread, and
-// the windows of one thread are those an owner and its pop-ups have in common.
+// The X server hands each connection its own range of identifiers; Wine opens one connection a thread.
 static const XID connectionMask = ~(XID)0x1fffff;
 
 // The last raise of this thread: what lay directly above the window before, for the case that it must be
@@ -84,9 +83,11 @@ int XConfigureWindow(Display* display, Window window, unsigned int mask, XWindow
     raised = window;
     aboveRaised = above + 1 < count ? siblings[above + 1] : None;
     const int result = Configure(display, window, mask, changes);
+    const void* owner = RootOwnerOf(window);
     BeginOwnRequests(display);
     for (unsigned int i = above + 1; i < count; i++) {
-        if ((siblings[i] & connectionMask) == (window & connectionMask)) {
+        if ((siblings[i] & connectionMask) == (window & connectionMask) &&
+            RootOwnerOf(siblings[i]) == owner) {
             Configure(display, siblings[i], mask, changes);
         }
     }

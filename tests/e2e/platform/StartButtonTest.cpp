@@ -73,6 +73,23 @@ TEST_F(StartButtonTest, ATapOpensTheMenuAndAnotherClosesIt)
     }
 }
 
+TEST_F(StartButtonTest, WhatIsInFrontStaysOnTheScreen)
+{
+    const HWND today = FindTopWindow({.className = L"DesktopExplorerWindow"});
+    const auto shown = [this] { return Picture::OfScreen(belowMenus).Count(RGB(0, 128, 0)); };
+    const int all = (belowMenus.right - belowMenus.left) * (belowMenus.bottom - belowMenus.top);
+    for (HWND window : {bar, today}) { // windows of one program, the bar behind the home screen
+        SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    ASSERT_TRUE(Raise(front));
+    ASSERT_TRUE(WaitFor([&] { return shown() == all; }));
+    Open(flag, 1);
+    EXPECT_TRUE(LooksLike(MenuTwin(top, corner, 0)));
+    EXPECT_EQ(shown(), all);
+    PressKey(VK_ESCAPE);
+    EXPECT_TRUE(IsClosed());
+}
+
 TEST_F(StartButtonTest, TheRestOfTheBarOpensNothing)
 {
     Tap({Scaled(60), Scaled(13)});

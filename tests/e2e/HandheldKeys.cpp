@@ -108,6 +108,18 @@ static std::string Lines()
     return all;
 }
 
+// A command that still has the file open would cost the next one its line.
+static bool IsNobodyWriting()
+{
+    const HANDLE file =
+        CreateFileW(noteFile, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    CloseHandle(file);
+    return true;
+}
+
 ButtonNote::ButtonNote()
 {
     std::filesystem::remove(noteFile);
@@ -125,5 +137,5 @@ std::wstring ButtonNote::Command(const std::wstring& line) const
 
 bool ButtonNote::Becomes(const std::string& lines) const
 {
-    return rig::WaitFor([&] { return Lines() == lines; });
+    return rig::WaitFor([&] { return Lines() == lines && IsNobodyWriting(); });
 }

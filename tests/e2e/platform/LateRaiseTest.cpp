@@ -19,8 +19,8 @@ class LateRaiseTest : public testing::Test
     const Actor busy;
     const Actor other;
     HWND first = busy.Make({.title = L"First", .place = area});
-    HWND shortPause = MakePause(500);
-    HWND longPause = MakePause(1500);
+    HWND shortPause = MakePause(1500);
+    HWND longPause = MakePause(3000);
     HWND next = other.Make({.title = L"Next", .place = area, .colour = colour});
 
     LateRaiseTest() { SetProcessDPIAware(); }

@@ -73,7 +73,7 @@ TEST(RigTest, AWindowThatLostTheFrontWhileBusyIsShownAgain)
     const Actor other;
     const HWND window = busy.Make({.place = area, .colour = orange});
     const HWND pause =
-        busy.Make({.place = {0, 180, 20, 200}, .closing = actor::Closing::Delay, .delay = 500});
+        busy.Make({.place = {0, 180, 20, 200}, .closing = actor::Closing::Delay, .delay = 2000});
     const HWND before = other.Make({.place = area});
     const auto shows = [&](COLORREF colour) {
         return WaitFor([=] { return Picture::OfScreen(area).Count(colour) == 160 * 100; });

@@ -99,7 +99,7 @@ static void KeepLowered(HWND window)
 // A program that a button starts asks at once which one is, to close or to spare it.
 static void AwaitFront(HWND window)
 {
-    static constexpr int mostWaits = 50;
+    static constexpr int mostWaits = 200;
     for (int i = 0; i < mostWaits && GetForegroundWindow() != window && IsWindow(window); ++i) {
         Sleep(10);
         DeliverPending();
